@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "catalogue/listnumbers.h"
+
+namespace {
+
+constexpr int highestFolder = 999;
+
+int byteAt(const QByteArray &bytes, qsizetype index)
+{
+    return static_cast<quint8>(bytes.at(index));
+}
+
+int wordAtHead(const QByteArray &bytes)
+{
+    return byteAt(bytes, 0) * 256 + byteAt(bytes, 1);
+}
+
+} // namespace
+
+NumberRange byteRange(const CommandEntry &entry, qsizetype index)
+{
+    if (entry.data.size() <= index || entry.dataMax.size() <= index)
+        return {};
+    return {byteAt(entry.data, index), byteAt(entry.dataMax, index)};
+}
+
+NumberRange wordRange(const CommandEntry &entry)
+{
+    if (entry.data.size() < 2 || entry.dataMax.size() < 2)
+        return {};
+    return {wordAtHead(entry.data), wordAtHead(entry.dataMax)};
+}
+
+QString paddedNumber(int number)
+{
+    return QString::number(number).rightJustified(3, u'0');
+}
+
+QStringList numberTexts(NumberRange range)
+{
+    QStringList texts;
+    for (int number = range.first; number <= range.last; ++number)
+        texts.append(QString::number(number));
+    return texts;
+}
+
+QStringList paddedNumberTexts(NumberRange range)
+{
+    QStringList texts;
+    for (int number = range.first; number <= range.last; ++number)
+        texts.append(paddedNumber(number));
+    return texts;
+}
+
+QStringList folderTexts(const CommandEntry &entry, int bankCount)
+{
+    const NumberRange range = byteRange(entry);
+    const int bankSize = range.last - range.first + 1;
+
+    QStringList texts;
+    for (int bank = 0; bank < bankCount; ++bank) {
+        for (int value = range.first; value <= range.last; ++value) {
+            const int folder = bankSize * bank + value;
+            if (folder <= highestFolder)
+                texts.append(paddedNumber(folder));
+        }
+    }
+    return texts;
+}
+
+int numberFromText(const QString &text)
+{
+    return text.toInt();
+}
