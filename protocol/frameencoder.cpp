@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "protocol/frameencoder.h"
+
+#include "catalogue/listnumbers.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr quint8 setMessageCode = 3;
+constexpr quint8 textCommandCode = 4;
+
+/// The volume's text form counts from this value downwards: 64 is sent as 0, 0 as -64.
+constexpr int loudestTextVolume = 64;
+
+// Text messages of the connect-on-demand family, behind the code byte:
+//
+//     00 00 00 | verb | 00 | name | 00 [ | argument | 00 ... ]
+//
+// verb is "cmd", "get" or "set", in ASCII as are name and arguments.
+QByteArray textMessage(const QByteArray &verb, const QByteArray &name)
+{
+    return QByteArray(3, '\0') + verb + '\0' + name + '\0';
+}
+
+/// The first two bytes of `data` hold a range, the name stands behind them.
+bool holdsTextName(const CommandEntry &entry)
+{
+    return entry.data.size() >= 3 && entry.dataMax.size() >= 3;
+}
+
+} // namespace
+
+bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QByteArray &body)
+{
+    bool found = false;
+    for (const CommandEntry &entry : model.commands) {
+        if (entry.commandId != commandId)
+            continue;
+        found = true;
+        code = entry.code;
+        if (!model.connectsOnDemand())
+            body += entry.data;
+        else if (entry.code == textCommandCode && holdsTextName(entry))
+            body += textMessage("cmd"_ba, entry.data.sliced(2));
+    }
+    return found;
+}
+
+bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &code,
+                         QByteArray &body)
+{
+    bool found = false;
+    for (const CommandEntry &entry : model.commands) {
+        if (entry.commandId != CommandId::Volume)
+            continue;
+        found = true;
+        code = entry.code;
+        body += entry.data;
+        if (model.protocol == ProtocolKind::Classic) {
+            applyFirstByte(volumeByte, body);
+        } else if (body.size() >= 2 && model.transport == TransportKind::Serial) {
+            body[0] = '\0';
+            body[1] = static_cast<char>(volumeByte);
+        } else if (body.size() >= 2) {
+            body.clear();
+            if (entry.code == setMessageCode) {
+                body += textMessage("set"_ba, "VolumeLocalMusic"_ba);
+                body += QByteArray::number(volumeByte - loudestTextVolume) + '\0';
+            }
+        }
+    }
+    return found;
+}
+
+void appendPlaybackArguments(const DeviceModel &model, quint32 commandId, QByteArray &body)
+{
+    if (!model.connectsOnDemand())
+        return;
+    switch (commandId) {
+    case CommandId::PreviousFile:
+    case CommandId::Play:
+    case CommandId::Stop:
+    case CommandId::NextFile:
+        body += "255"_ba + '\0' + "255"_ba + '\0';
+        break;
+    default:
+        break;
+    }
+}
+
+void applyFolderNumber(int folder, quint8 &code, QByteArray &body)
+{
+    const int bank = folder / 128;
+    code = static_cast<quint8>(code + 16 * bank);
+    applyFirstByte(folder - 128 * bank, body);
+}
+
+void applyFirstByte(int value, QByteArray &body)
+{
+    if (!body.isEmpty())
+        body[0] = static_cast<char>(value);
+}
+
+quint8 playerIdByteFromText(const QString &playerId)
+{
+    return static_cast<quint8>(0x80U + static_cast<quint32>(numberFromText(playerId)));
+}
+
+// Classic:  | 80 + player ID | code | body |
+// Extended: | code | body |
+QByteArray wireFrame(const DeviceModel &model, quint8 playerIdByte, quint8 code,
+                     const QByteArray &body)
+{
+    QByteArray frame;
+    if (model.protocol == ProtocolKind::Classic)
+        frame += static_cast<char>(playerIdByte);
+    frame += static_cast<char>(code);
+    return frame + body;
+}
