@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "catalogue/devicecatalogue.h"
+
+#include <QLocale>
+#include <QString>
+
+class QSerialPort;
+class QTcpSocket;
+class QTranslator;
+
+// The objects of which the program has exactly one. They are created before main() in the order
+// below and live until the process ends; none is ever deleted, so that no signal of theirs can
+// arrive at a half-destroyed one. Whether a link is open is always asked of the port and the
+// socket themselves.
+
+extern QTranslator *const translator;
+
+extern const QString languageFilePrefix; ///< followed by a language code: "LanguageData_fr"
+extern const QLocale englishLocale;
+extern const QLocale frenchLocale;
+
+extern QSerialPort *const serialPort;
+extern QTcpSocket *const tcpSocket;
+
+extern QString receivedText; ///< everything received since the last Clear, as displayed
+
+extern const QString configFileSuffix;
+extern const QString configFormatVersion;
+extern const QString configMagic;
+extern const QString configTitleSuffix;
+extern const QString configPlaceholder; ///< stands for "no choice" in the configuration file
+
+extern QString configFilePath; ///< full path; empty until the window's constructor sets it
+
+extern DeviceCatalogue deviceCatalogue; ///< filled once by the window's constructor
+
+/// Base of the tokens that the sent-bytes display shows now; new commands follow the buttons.
+extern bool sentBytesShownInHex;
+
+/// Name, version and maker of the program, for the settings folder and the texts that show them.
+/// To be called before the application object is created.
+void setApplicationIdentity();

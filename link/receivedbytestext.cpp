@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "link/receivedbytestext.h"
+
+#include "protocol/bytestext.h"
+
+namespace {
+
+/// Every byte brings its own blank, the first one too.
+QString withLeadingBlank(const QString &text)
+{
+    return text.isEmpty() ? text : u' ' + text;
+}
+
+} // namespace
+
+QString asciiReceivedText(const QByteArray &bytes)
+{
+    return QString::fromUtf8(bytes);
+}
+
+QString hexReceivedText(const QByteArray &bytes)
+{
+    return withLeadingBlank(hexBytesText(bytes));
+}
+
+QString decimalReceivedText(const QByteArray &bytes)
+{
+    return withLeadingBlank(decimalBytesText(bytes));
+}
