@@ -8,6 +8,8 @@
 #include "link/serialsettings.h"
 #include "ui_mainwindow.h"
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -86,9 +88,8 @@ void MainWindow::connectLinkSignals()
     connect(tcpSocket, SIGNAL(connected()), this, SLOT(onSocketConnected()));
     connect(tcpSocket, SIGNAL(readyRead()), this, SLOT(update_TCP_Read_Data()));
     connect(tcpSocket, SIGNAL(disconnected()), this, SLOT(onSocketDisconnected()));
-    // No signal of this name exists in Qt 6, so socket errors open no dialog: a device that cannot
-    // be reached ends quietly, by LinkWatcher. Naming the present signal would change what the
-    // user sees.
+    // No signal of this name exists in Qt 6, so socket errors open no dialog: an attempt that fails
+    // ends quietly, by LinkWatcher. Naming the present signal would change what the user sees.
     connect(tcpSocket, SIGNAL(error(QAbstractSocket::SocketError)), this,
             SLOT(onSocketError(QAbstractSocket::SocketError)));
 }

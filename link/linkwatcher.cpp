@@ -40,7 +40,6 @@ LinkWatcher::LinkWatcher(QSerialPort *port, QTcpSocket *socket,
     connect(&m_connectTimer, &QTimer::timeout, this, &LinkWatcher::handleConnectTimeout);
     connect(&m_handleTimer, &QTimer::timeout, this, &LinkWatcher::checkSerialHandle);
     connect(m_tcpSocket, &QTcpSocket::stateChanged, this, &LinkWatcher::handleSocketState);
-    connect(m_tcpSocket, &QTcpSocket::aboutToClose, &m_connectTimer, &QTimer::stop);
     connect(m_serialPort, &QSerialPort::errorOccurred, this, &LinkWatcher::handleSerialError);
     connect(m_serialPort, &QSerialPort::aboutToClose, &m_handleTimer, &QTimer::stop);
 }
@@ -61,8 +60,12 @@ void LinkWatcher::handleSocketState(QAbstractSocket::SocketState state)
 
 void LinkWatcher::handleConnectTimeout()
 {
-    if (m_tcpSocket->state() != QAbstractSocket::ConnectedState)
-        emit linkLost();
+    if (!m_tcpSocket || m_tcpSocket->state() == QAbstractSocket::ConnectedState)
+        return;
+    // The attempt is over and closed, and a serial link was made since: that one is not to blame.
+    if (!m_tcpSocket->isOpen() && m_serialPort && m_serialPort->isOpen())
+        return;
+    emit linkLost();
 }
 
 void LinkWatcher::handleSerialError(QSerialPort::SerialPortError error)
@@ -84,7 +87,7 @@ void LinkWatcher::handleSerialError(QSerialPort::SerialPortError error)
 
 void LinkWatcher::checkSerialHandle()
 {
-    if (!m_serialPort->isOpen())
+    if (!m_serialPort || !m_serialPort->isOpen())
         m_handleTimer.stop();
     else if (isHungUp(*m_serialPort))
         reportSerialLoss();

@@ -4,17 +4,19 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QSerialPort>
 #include <QTcpSocket>
 #include <QTimer>
 
 #include <chrono>
 
-/// Notices what port and socket do not tell by themselves: a TCP attempt that gets no answer, and
-/// a serial device that is gone. Reports once for each opening of a link.
+/// Notices what port and socket do not tell by themselves: a TCP attempt that does not succeed, and
+/// a serial device that is gone.
 ///
-/// A refused attempt leaves the socket open and unconnected without a word, so an attempt is
-/// judged by the socket's state when its time is up. A vanished serial device shows in one of two
+/// A refused attempt ends without a word: the socket stays open and unconnected or, when bytes
+/// were queued, closes itself. So an attempt is judged by the socket's state when its time is up,
+/// whatever happened before. A vanished serial device shows in one of two
 /// ways, depending on Qt's version: errors without end while the port stays open, or none at all.
 /// So the first error counts, and the handle is asked for a hang-up a few times a second.
 class LinkWatcher : public QObject
@@ -27,7 +29,7 @@ public:
                 QObject *parent = nullptr);
 
 signals:
-    /// The attempt failed or the device is gone; the link is still open and is to be closed.
+    /// The attempt failed or the device is gone; what is still open is to be closed.
     void linkLost();
 
 private:
@@ -37,8 +39,8 @@ private:
     void checkSerialHandle();
     void reportSerialLoss();
 
-    QSerialPort *m_serialPort;
-    QTcpSocket *m_tcpSocket;
+    QPointer<QSerialPort> m_serialPort;
+    QPointer<QTcpSocket> m_tcpSocket;
     QTimer m_connectTimer;
     QTimer m_handleTimer;
 };

@@ -5,6 +5,8 @@
 
 #include "protocol/bytestext.h"
 
+#include <QStringDecoder>
+
 namespace {
 
 /// Every byte brings its own blank, the first one too.
@@ -17,7 +19,10 @@ QString withLeadingBlank(const QString &text)
 
 QString asciiReceivedText(const QByteArray &bytes)
 {
-    return QString::fromUtf8(bytes);
+    // Unlike QString::fromUtf8(), this keeps a byte-order mark at the head of an arrival.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringConverter::Flag::ConvertInitialBom
+                                                    | QStringConverter::Flag::Stateless);
+    return decode(bytes);
 }
 
 QString hexReceivedText(const QByteArray &bytes)

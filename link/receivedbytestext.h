@@ -8,8 +8,8 @@
 
 // The three forms in which received bytes are shown. Nothing is put between two arrivals.
 
-/// The bytes as UTF-8; what is none shows as replacement characters, also where a character was
-/// cut in two by the arrival's end.
+/// Every byte decoded as UTF-8; what is none shows as replacement characters, also where a
+/// character was cut in two by the arrival's end.
 QString asciiReceivedText(const QByteArray &bytes);
 
 /// A blank and two upper-case hexadecimal digits for each byte: " 01 AB".
