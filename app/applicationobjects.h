@@ -13,9 +13,8 @@ class QTcpSocket;
 class QTranslator;
 
 // The objects of which the program has exactly one. They are created before main() in the order
-// below and live until the process ends; none is ever deleted, so that no signal of theirs can
-// arrive at a half-destroyed one. Whether a link is open is always asked of the port and the
-// socket themselves.
+// below and live until the process ends; translator, port and socket are never deleted. Whether a
+// link is open is always asked of the port and the socket themselves.
 
 extern QTranslator *const translator;
 

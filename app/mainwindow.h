@@ -58,9 +58,12 @@ public:
     void showConnectingState();
     void writeFrame(quint8 playerIdByte, quint8 code, const QByteArray &body);
 
-    // Received data (link/): replace `out` by all pending bytes; leave it alone when not open
+    // Received data (link/)
+    /// Replaces `out` by all pending bytes; leaves it alone when the port is not open.
     void readSerialData(QByteArray &out);
+    /// The same for the socket.
     void readTcpData(QByteArray &out);
+    /// Appends the bytes in the chosen form.
     void appendReceivedData(const QByteArray &bytes, QString &text);
 
     // Panels (ui/)
@@ -137,14 +140,15 @@ public slots:
     void on_pushButton_Clear_clicked();
 
     // Panels (ui/)
-    /// Rebuilds the panels for a row of the model list. A row outside the catalogue changes none.
+    /// Rebuilds the panels for a row of the model list. A row outside the catalogue refreshes no
+    /// more than the connection widgets and the lists beside the source of playback.
     void on_comboBox_Player_activated(int index);
     void on_comboBox_Source_Of_Playback_activated(int index);
     void on_comboBox_Subtitles_Type_activated();
 
 private:
     // Steps of the constructor; invokable, so that a test can repeat one on a changed window.
-    Q_INVOKABLE void fillPlayerList();
+    void fillPlayerList();
     Q_INVOKABLE void fillSerialPortList();
     Q_INVOKABLE void applyStartupDefaults();
     void setConfigFilePath();

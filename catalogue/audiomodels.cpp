@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Classic frames: code 1 selects a folder, code 2 carries one action byte, code 3 sets the volume.
-// These players know no pause.
+// The decks of the first table know no pause (action 05).
 
 // clang-format off
 constexpr CommandRow deckCommands[] = {

@@ -10,8 +10,6 @@
 DeviceCatalogue buildDeviceCatalogue()
 {
     DeviceCatalogue catalogue;
-    catalogue.reserve(15);
-
     appendTempoDeck(catalogue);
     appendShowDeckGen2(catalogue);
     appendVistarShowSerial(catalogue);

@@ -9,6 +9,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr std::initializer_list<qint32> currentPlayerBaudRates = {
+    1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200,
+};
+
 /// Reads as 65079, the unsigned value of the 16-bit pattern FE37.
 constexpr quint16 videoPlayerPort = 0xFE37;
 
@@ -116,7 +120,7 @@ void appendVistarShowSerial(DeviceCatalogue &catalogue)
     DeviceModel &model
         = catalogue.emplaceBack(u"Vistar Show - SV500 (Serial)"_s, ProtocolKind::Classic,
                                 TransportKind::Serial, 0, 127, 8, 115200, 0, u"1.11"_s);
-    model.baudRates = {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200};
+    model.baudRates = currentPlayerBaudRates;
     appendSharedVideoCommands(catalogue);
 }
 
@@ -132,7 +136,7 @@ void appendVistarHomeSerial(DeviceCatalogue &catalogue)
     DeviceModel &model
         = catalogue.emplaceBack(u"Vistar Home - HV4xx (Serial)"_s, ProtocolKind::Classic,
                                 TransportKind::Serial, 0, 127, 8, 115200, 0, u"1.11"_s);
-    model.baudRates = {1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200};
+    model.baudRates = currentPlayerBaudRates;
     appendSharedVideoCommands(catalogue);
 }
 
@@ -143,7 +147,7 @@ void appendVistarHomeTcp(DeviceCatalogue &catalogue)
     appendSharedVideoCommands(catalogue);
 }
 
-// Two folder banks here, eight on the TCP/IP twin: the devices differ, not the table.
+// Two folder banks here, eight on the TCP/IP twin: deliberate.
 void appendHv1xxSerial(DeviceCatalogue &catalogue)
 {
     DeviceModel &model = catalogue.emplaceBack(u"HV1xx (Serial) (legacy)"_s, ProtocolKind::Classic,

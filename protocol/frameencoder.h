@@ -7,8 +7,8 @@
 
 #include <QByteArray>
 
-// The bytes of a command, from a model and plain values. The functions append to `body`, which the
-// caller hands in empty, and write `code` only when the model has the command.
+// The bytes of a command, from a model and plain values. What appends takes a `body` that the
+// caller hands in empty, and writes `code` only when the model has the command.
 
 /// Appends the data of every command of the id and reports the last one's code: a model that lists
 /// an id twice sends both bodies in one frame. A command of the connect-on-demand family that is
@@ -17,7 +17,8 @@
 bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QByteArray &body);
 
 /// Appends the volume command with `volumeByte` written into it. The text form of the
-/// connect-on-demand family carries the volume less 64, as signed decimal text.
+/// connect-on-demand family carries the volume less 64, as signed decimal text; there, a volume
+/// command of another code than 3 gets an empty body.
 /// \return whether the model has a volume command
 bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &code,
                          QByteArray &body);

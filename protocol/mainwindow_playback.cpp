@@ -7,6 +7,8 @@
 #include "protocol/frameencoder.h"
 #include "ui_mainwindow.h"
 
+#include <QSlider>
+
 void MainWindow::sendFixedCommand(quint32 commandId)
 {
     quint8 code = 0;

@@ -7,6 +7,7 @@
 #include "ui/subtitlecodes.h"
 #include "ui_mainwindow.h"
 
+#include <QComboBox>
 #include <QSignalBlocker>
 
 #include <initializer_list>
