@@ -1,0 +1,536 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "protocol/frameencoder.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Every command is one of these, so that a row of test data reads like a line of a model's table.
+CommandEntry command(quint32 id, quint8 code, const QByteArray &data, const QByteArray &dataMax)
+{
+    return {u"Command"_s, id, code, QByteArray::fromHex(data), QByteArray::fromHex(dataMax)};
+}
+
+CommandEntry command(quint32 id, quint8 code, const QByteArray &data)
+{
+    return command(id, code, data, data);
+}
+
+DeviceModel model(ProtocolKind protocol, TransportKind transport,
+                  const QList<CommandEntry> &commands = {})
+{
+    DeviceModel result;
+    result.protocol = protocol;
+    result.transport = transport;
+    result.commands = commands;
+    return result;
+}
+
+QByteArray hex(const QByteArray &bytes)
+{
+    return bytes.toHex(' ').toUpper();
+}
+
+constexpr auto Classic = ProtocolKind::Classic;
+constexpr auto Extended = ProtocolKind::Extended;
+constexpr auto Serial = TransportKind::Serial;
+constexpr auto TcpIp = TransportKind::TcpIp;
+
+/// What `code` holds before a function that must leave it alone.
+constexpr quint8 untouched = 0xAB;
+
+} // namespace
+
+Q_DECLARE_METATYPE(DeviceModel)
+
+class tst_FrameEncoder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void appendCommand_data();
+    void appendCommand();
+    void appendCommandKeepsWhatTheBodyHolds();
+    void appendPlaybackArguments_data();
+    void appendPlaybackArguments();
+    void appendVolumeCommand_data();
+    void appendVolumeCommand();
+    void applyFolderNumber_data();
+    void applyFolderNumber();
+    void applyFirstByte_data();
+    void applyFirstByte();
+    void playerIdByteFromText_data();
+    void playerIdByteFromText();
+    void wireFrame_data();
+    void wireFrame();
+    void wholeMessage_data();
+    void wholeMessage();
+};
+
+void tst_FrameEncoder::appendCommand_data()
+{
+    QTest::addColumn<DeviceModel>("model");
+    QTest::addColumn<quint32>("commandId");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("body");
+
+    const QList<CommandEntry> table{command(1, 1, "00", "7F"), command(4, 2, "01"),
+                                    command(5, 2, "02"), command(99, 8, "")};
+    QTest::newRow("first of the table")
+        << model(Classic, Serial, table) << 1U << true << 1 << "00"_ba;
+    QTest::newRow("in the middle") << model(Classic, Serial, table) << 4U << true << 2 << "01"_ba;
+    QTest::newRow("classic over TCP/IP")
+        << model(Classic, TcpIp, table) << 5U << true << 2 << "02"_ba;
+    QTest::newRow("without data") << model(Classic, Serial, table) << 99U << true << 8 << ""_ba;
+    QTest::newRow("not in the table: code and body stay")
+        << model(Classic, Serial, table) << 6U << false << int(untouched) << ""_ba;
+    QTest::newRow("model without commands")
+        << model(Classic, Serial) << 4U << false << int(untouched) << ""_ba;
+    QTest::newRow("default-made command has id 99")
+        << model(Classic, Serial, {CommandEntry()}) << 99U << true << 0 << ""_ba;
+    QTest::newRow("default-made command has no other id")
+        << model(Classic, Serial, {CommandEntry()}) << 0U << false << int(untouched) << ""_ba;
+    QTest::newRow("all of long data")
+        << model(Classic, Serial, {command(29, 44, "07 08 09 0A 0B 0C")}) << 29U << true << 44
+        << "07 08 09 0A 0B 0C"_ba;
+    QTest::newRow("text code on a classic model is no text command")
+        << model(Classic, TcpIp, {command(4, 4, "FF FF 33 32")}) << 4U << true << 4
+        << "FF FF 33 32"_ba;
+
+    QTest::newRow("extended serial copies the data")
+        << model(Extended, Serial, {command(4, 32, "FF FF FF")}) << 4U << true << 32
+        << "FF FF FF"_ba;
+    QTest::newRow("extended serial copies the data of the text code too")
+        << model(Extended, Serial, {command(4, 4, "FF FF 33 32")}) << 4U << true << 4
+        << "FF FF 33 32"_ba;
+    QTest::newRow("extended serial copies short data")
+        << model(Extended, Serial, {command(4, 2, "01")}) << 4U << true << 2 << "01"_ba;
+    QTest::newRow("extended serial: not in the table")
+        << model(Extended, Serial, {command(4, 32, "FF FF FF")}) << 6U << false << int(untouched)
+        << ""_ba;
+
+    QTest::newRow("text command") << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32")}) << 4U
+                                  << true << 4 << "00 00 00 63 6D 64 00 33 32 00"_ba;
+    QTest::newRow("text command: one digit")
+        << model(Extended, TcpIp, {command(23, 4, "00 01 30", "03 E7 30")}) << 23U << true << 4
+        << "00 00 00 63 6D 64 00 30 00"_ba;
+    QTest::newRow("text command: the longest dataMax changes nothing")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32", "FF FF 33 32 33 34")}) << 4U << true
+        << 4 << "00 00 00 63 6D 64 00 33 32 00"_ba;
+    QTest::newRow("text command: dataMax shorter than data, yet of three bytes")
+        << model(Extended, TcpIp, {command(3, 4, "FF FF 33 36", "FF FF 36")}) << 3U << true << 4
+        << "00 00 00 63 6D 64 00 33 36 00"_ba;
+    // A command of this family that is no text command is still sent, as its code byte alone.
+    QTest::newRow("no text command: data of two bytes")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF", "FF FF 33")}) << 4U << true << 4 << ""_ba;
+    QTest::newRow("no text command: dataMax of two bytes")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF 33", "FF FF")}) << 4U << true << 4 << ""_ba;
+    QTest::newRow("no text command: no data at all")
+        << model(Extended, TcpIp, {command(4, 4, "")}) << 4U << true << 4 << ""_ba;
+    QTest::newRow("no text command: another code")
+        << model(Extended, TcpIp, {command(4, 2, "FF FF 33 32")}) << 4U << true << 2 << ""_ba;
+    QTest::newRow("connect on demand: not in the table")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32")}) << 6U << false << int(untouched)
+        << ""_ba;
+
+    // The table of a model is not checked for ids listed twice: both bodies travel in one frame.
+    QTest::newRow("listed twice: both bodies, the last code") << model(
+        Classic, Serial, {command(4, 2, "01"), command(5, 2, "02"), command(4, 7, "0A 0B")})
+                                                              << 4U << true << 7 << "01 0A 0B"_ba;
+    QTest::newRow("listed three times on extended serial")
+        << model(Extended, Serial, {command(4, 1, "01"), command(4, 2, "02"), command(4, 3, "03")})
+        << 4U << true << 3 << "01 02 03"_ba;
+    QTest::newRow("listed twice as text command")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32"), command(4, 4, "FF FF 33 34")})
+        << 4U << true << 4 << "00 00 00 63 6D 64 00 33 32 00 00 00 00 63 6D 64 00 33 34 00"_ba;
+    QTest::newRow("listed as text command, then not: its body, the last code")
+        << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32"), command(4, 9, "FF FF 33 34")})
+        << 4U << true << 9 << "00 00 00 63 6D 64 00 33 32 00"_ba;
+}
+
+void tst_FrameEncoder::appendCommand()
+{
+    QFETCH(DeviceModel, model);
+    QFETCH(quint32, commandId);
+
+    quint8 code = untouched;
+    QByteArray body;
+    QTEST(::appendCommand(model, commandId, code, body), "found");
+    QTEST(int(code), "code");
+    QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::appendCommandKeepsWhatTheBodyHolds()
+{
+    quint8 code = 0;
+    QByteArray body("\x11", 1);
+    QVERIFY(::appendCommand(model(Classic, Serial, {command(4, 2, "01")}), 4, code, body));
+    QCOMPARE(hex(body), "11 01"_ba);
+    QVERIFY(!::appendCommand(model(Classic, Serial, {command(4, 2, "01")}), 5, code, body));
+    QCOMPARE(hex(body), "11 01"_ba);
+}
+
+void tst_FrameEncoder::appendPlaybackArguments_data()
+{
+    QTest::addColumn<DeviceModel>("model");
+    QTest::addColumn<quint32>("commandId");
+    QTest::addColumn<QByteArray>("body");
+
+    const auto withArguments = "41 32 35 35 00 32 35 35 00"_ba;
+    const auto asItWas = "41"_ba;
+    const DeviceModel onDemand = model(Extended, TcpIp);
+    QTest::newRow("previous file") << onDemand << 3U << withArguments;
+    QTest::newRow("play") << onDemand << 4U << withArguments;
+    QTest::newRow("stop") << onDemand << 5U << withArguments;
+    QTest::newRow("next file") << onDemand << 7U << withArguments;
+    QTest::newRow("folder: none") << onDemand << 1U << asItWas;
+    QTest::newRow("previous folder: none") << onDemand << 2U << asItWas;
+    QTest::newRow("pause: none") << onDemand << 6U << asItWas;
+    QTest::newRow("next folder: none") << onDemand << 8U << asItWas;
+    QTest::newRow("volume: none") << onDemand << 9U << asItWas;
+    QTest::newRow("standby: none") << onDemand << 12U << asItWas;
+    QTest::newRow("mute: none") << onDemand << 19U << asItWas;
+    for (const quint32 id : {3U, 4U, 5U, 7U}) {
+        QTest::addRow("classic serial, id %u: none", id) << model(Classic, Serial) << id << asItWas;
+        QTest::addRow("classic TCP/IP, id %u: none", id) << model(Classic, TcpIp) << id << asItWas;
+        QTest::addRow("extended serial, id %u: none", id)
+            << model(Extended, Serial) << id << asItWas;
+    }
+}
+
+void tst_FrameEncoder::appendPlaybackArguments()
+{
+    QFETCH(DeviceModel, model);
+    QFETCH(quint32, commandId);
+
+    QByteArray body = "A"_ba;
+    ::appendPlaybackArguments(model, commandId, body);
+    QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::appendVolumeCommand_data()
+{
+    QTest::addColumn<DeviceModel>("model");
+    QTest::addColumn<int>("volume");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("body");
+
+    const DeviceModel classic
+        = model(Classic, Serial, {command(4, 2, "01"), command(9, 3, "00", "40")});
+    QTest::newRow("classic 0") << classic << 0 << true << 3 << "00"_ba;
+    QTest::newRow("classic 31") << classic << 31 << true << 3 << "1F"_ba;
+    QTest::newRow("classic 64") << classic << 64 << true << 3 << "40"_ba;
+    QTest::newRow("classic 100") << classic << 100 << true << 3 << "64"_ba;
+    QTest::newRow("classic 255") << classic << 255 << true << 3 << "FF"_ba;
+    QTest::newRow("classic over TCP/IP")
+        << model(Classic, TcpIp, {command(9, 3, "00", "64")}) << 50 << true << 3 << "32"_ba;
+    QTest::newRow("classic: only the first byte is the volume")
+        << model(Classic, Serial, {command(9, 3, "0A 0B 0C")}) << 5 << true << 3 << "05 0B 0C"_ba;
+    QTest::newRow("classic without data: nothing to write the volume into")
+        << model(Classic, Serial, {command(9, 3, "")}) << 5 << true << 3 << ""_ba;
+    QTest::newRow("classic: none")
+        << model(Classic, Serial, {command(4, 2, "01")}) << 5 << false << int(untouched) << ""_ba;
+    // The second command's data stands behind the first one's, the volume at the head.
+    QTest::newRow("classic: listed twice")
+        << model(Classic, Serial, {command(9, 3, "00"), command(9, 5, "0A")}) << 7 << true << 5
+        << "07 0A"_ba;
+    QTest::newRow("classic: the first without data")
+        << model(Classic, Serial, {command(9, 3, ""), command(9, 5, "0A")}) << 7 << true << 5
+        << "07"_ba;
+
+    const DeviceModel serial = model(Extended, Serial, {command(9, 48, "00 00 00", "00 40 00")});
+    QTest::newRow("extended serial 0") << serial << 0 << true << 48 << "00 00 00"_ba;
+    QTest::newRow("extended serial 40") << serial << 40 << true << 48 << "00 28 00"_ba;
+    QTest::newRow("extended serial 64") << serial << 64 << true << 48 << "00 40 00"_ba;
+    QTest::newRow("extended serial 255") << serial << 255 << true << 48 << "00 FF 00"_ba;
+    QTest::newRow("extended serial: high byte is always 0")
+        << model(Extended, Serial, {command(9, 48, "01 02 FF")}) << 9 << true << 48
+        << "00 09 FF"_ba;
+    QTest::newRow("extended serial: two bytes are enough")
+        << model(Extended, Serial, {command(9, 48, "01 02")}) << 9 << true << 48 << "00 09"_ba;
+    QTest::newRow("extended serial: a single byte is kept")
+        << model(Extended, Serial, {command(9, 48, "07")}) << 9 << true << 48 << "07"_ba;
+    QTest::newRow("extended serial: no data")
+        << model(Extended, Serial, {command(9, 48, "")}) << 9 << true << 48 << ""_ba;
+    QTest::newRow("extended serial: none")
+        << model(Extended, Serial) << 9 << false << int(untouched) << ""_ba;
+    QTest::newRow("extended serial: listed twice")
+        << model(Extended, Serial, {command(9, 48, "01 02"), command(9, 49, "03 04")}) << 9 << true
+        << 49 << "00 09 03 04"_ba;
+
+    // The text form counts downwards from 64: "-64", "-24", "0", "191".
+    const DeviceModel onDemand = model(Extended, TcpIp, {command(9, 3, "00 00 00", "00 40 00")});
+    const QByteArray name
+        = "00 00 00 73 65 74 00 56 6F 6C 75 6D 65 4C 6F 63 61 6C 4D 75 73 69 63 00";
+    QTest::newRow("text form 0") << onDemand << 0 << true << 3 << name + " 2D 36 34 00";
+    QTest::newRow("text form 40") << onDemand << 40 << true << 3 << name + " 2D 32 34 00";
+    QTest::newRow("text form 63") << onDemand << 63 << true << 3 << name + " 2D 31 00";
+    QTest::newRow("text form 64") << onDemand << 64 << true << 3 << name + " 30 00";
+    QTest::newRow("text form 65") << onDemand << 65 << true << 3 << name + " 31 00";
+    QTest::newRow("text form 255") << onDemand << 255 << true << 3 << name + " 31 39 31 00";
+    QTest::newRow("text form: two bytes are enough")
+        << model(Extended, TcpIp, {command(9, 3, "00 00")}) << 64 << true << 3 << name + " 30 00";
+    QTest::newRow("no text form for another code: the code byte alone")
+        << model(Extended, TcpIp, {command(9, 4, "00 00 00", "00 40 00")}) << 40 << true << 4
+        << ""_ba;
+    QTest::newRow("connect on demand: a single byte is kept")
+        << model(Extended, TcpIp, {command(9, 3, "07")}) << 40 << true << 3 << "07"_ba;
+    QTest::newRow("connect on demand: no data")
+        << model(Extended, TcpIp, {command(9, 3, "")}) << 40 << true << 3 << ""_ba;
+    QTest::newRow("connect on demand: none") << model(Extended, TcpIp, {command(10, 2, "FF FF 41")})
+                                             << 40 << false << int(untouched) << ""_ba;
+    // The text form replaces all that is in the body, hence that of an earlier command as well.
+    QTest::newRow("text form listed twice: once on the wire")
+        << model(Extended, TcpIp, {command(9, 3, "00 00 00"), command(9, 3, "00 00 00")}) << 64
+        << true << 3 << name + " 30 00";
+    QTest::newRow("text form, then another code: the code byte alone")
+        << model(Extended, TcpIp, {command(9, 3, "00 00 00"), command(9, 4, "00 00 00")}) << 64
+        << true << 4 << ""_ba;
+    QTest::newRow("single byte, then text form")
+        << model(Extended, TcpIp, {command(9, 4, "07"), command(9, 3, "00 00 00")}) << 64 << true
+        << 3 << name + " 30 00";
+}
+
+void tst_FrameEncoder::appendVolumeCommand()
+{
+    QFETCH(DeviceModel, model);
+    QFETCH(int, volume);
+
+    quint8 code = untouched;
+    QByteArray body;
+    QTEST(::appendVolumeCommand(model, static_cast<quint8>(volume), code, body), "found");
+    QTEST(int(code), "code");
+    QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::applyFolderNumber_data()
+{
+    QTest::addColumn<int>("folder");
+    QTest::addColumn<int>("codeBefore");
+    QTest::addColumn<QByteArray>("bodyBefore");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("body");
+
+    const struct
+    {
+        int folder;
+        int code;
+        const char *body;
+    } folders[] = {
+        {0, 0x01, "00"},
+        {1, 0x01, "01"},
+        {5, 0x01, "05"},
+        {9, 0x01, "09"},
+        {127, 0x01, "7F"},
+        {128, 0x11, "00"},
+        {129, 0x11, "01"},
+        {200, 0x11, "48"},
+        {255, 0x11, "7F"},
+        {256, 0x21, "00"},
+        {383, 0x21, "7F"},
+        {384, 0x31, "00"},
+        {512, 0x41, "00"},
+        {640, 0x51, "00"},
+        {768, 0x61, "00"},
+        {896, 0x71, "00"},
+        {999, 0x71, "67"},
+        {1023, 0x71, "7F"},
+        {1024, 0x81, "00"},
+        {2048, 0x01, "00"},
+        {2176, 0x11, "00"},
+        // Below zero the bank is cut towards zero; what is left over travels as it is.
+        {-1, 0x01, "FF"},
+        {-127, 0x01, "81"},
+        {-128, 0xF1, "00"},
+        {-129, 0xF1, "FF"},
+        {-200, 0xF1, "B8"},
+        {-256, 0xE1, "00"},
+    };
+    for (const auto &[folder, code, body] : folders)
+        QTest::addRow("folder %d", folder) << folder << 1 << "55"_ba << code << QByteArray(body);
+
+    QTest::newRow("highest number")
+        << std::numeric_limits<int>::max() << 1 << "55"_ba << 0xF1 << "7F"_ba;
+    QTest::newRow("lowest number")
+        << std::numeric_limits<int>::min() << 1 << "55"_ba << 0x01 << "00"_ba;
+    QTest::newRow("code wraps round") << 128 << 0xFA << "55"_ba << 0x0A << "00"_ba;
+    QTest::newRow("only the first byte") << 200 << 1 << "55 66"_ba << 0x11 << "48 66"_ba;
+    QTest::newRow("empty body stays empty") << 200 << 1 << ""_ba << 0x11 << ""_ba;
+}
+
+void tst_FrameEncoder::applyFolderNumber()
+{
+    QFETCH(int, folder);
+    QFETCH(int, codeBefore);
+    QFETCH(QByteArray, bodyBefore);
+
+    auto code = static_cast<quint8>(codeBefore);
+    QByteArray body = QByteArray::fromHex(bodyBefore);
+    ::applyFolderNumber(folder, code, body);
+    QTEST(int(code), "code");
+    QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::applyFirstByte_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QByteArray>("bodyBefore");
+    QTest::addColumn<QByteArray>("body");
+
+    QTest::newRow("0") << 0 << "01"_ba
+                       << "00"_ba;
+    QTest::newRow("1") << 1 << "55"_ba
+                       << "01"_ba;
+    QTest::newRow("12") << 12 << "01"_ba
+                        << "0C"_ba;
+    QTest::newRow("127") << 127 << "01"_ba
+                         << "7F"_ba;
+    QTest::newRow("200: no range check") << 200 << "01"_ba
+                                         << "C8"_ba;
+    QTest::newRow("255") << 255 << "01"_ba
+                         << "FF"_ba;
+    QTest::newRow("256: low 8 bits") << 256 << "01"_ba
+                                     << "00"_ba;
+    QTest::newRow("300: low 8 bits") << 300 << "01"_ba
+                                     << "2C"_ba;
+    QTest::newRow("-1: low 8 bits") << -1 << "01"_ba
+                                    << "FF"_ba;
+    QTest::newRow("the rest of the body stays") << 12 << "01 02 03"_ba
+                                                << "0C 02 03"_ba;
+    QTest::newRow("empty body stays empty") << 12 << ""_ba
+                                            << ""_ba;
+}
+
+void tst_FrameEncoder::applyFirstByte()
+{
+    QFETCH(int, value);
+    QFETCH(QByteArray, bodyBefore);
+
+    QByteArray body = QByteArray::fromHex(bodyBefore);
+    ::applyFirstByte(value, body);
+    QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::playerIdByteFromText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("byte");
+
+    QTest::newRow("0") << u"0"_s << 0x80;
+    QTest::newRow("1") << u"1"_s << 0x81;
+    QTest::newRow("3") << u"3"_s << 0x83;
+    QTest::newRow("5") << u"5"_s << 0x85;
+    QTest::newRow("64") << u"64"_s << 0xC0;
+    QTest::newRow("127") << u"127"_s << 0xFF;
+    QTest::newRow("leading zeros") << u"007"_s << 0x87;
+    QTest::newRow("128: no range check") << u"128"_s << 0x00;
+    QTest::newRow("200: no range check") << u"200"_s << 0x48;
+    QTest::newRow("255: no range check") << u"255"_s << 0x7F;
+    QTest::newRow("256") << u"256"_s << 0x80;
+    QTest::newRow("-1") << u"-1"_s << 0x7F;
+    QTest::newRow("highest 32-bit number") << u"2147483647"_s << 0x7F;
+    QTest::newRow("above 32 bits") << u"2147483648"_s << 0x80;
+    QTest::newRow("lowest 32-bit number") << u"-2147483648"_s << 0x80;
+    QTest::newRow("far above 32 bits") << u"99999999999999999999"_s << 0x80;
+    QTest::newRow("above 32 bits, with low bits set") << u"4294967301"_s << 0x80;
+    QTest::newRow("empty") << u""_s << 0x80;
+    QTest::newRow("null") << QString() << 0x80;
+    QTest::newRow("letters") << u"abc"_s << 0x80;
+    QTest::newRow("hexadecimal is none") << u"0x05"_s << 0x80;
+    QTest::newRow("number and letters") << u"5a"_s << 0x80;
+    QTest::newRow("fraction") << u"5.0"_s << 0x80;
+}
+
+void tst_FrameEncoder::playerIdByteFromText()
+{
+    QFETCH(QString, text);
+    QTEST(int(::playerIdByteFromText(text)), "byte");
+}
+
+void tst_FrameEncoder::wireFrame_data()
+{
+    QTest::addColumn<DeviceModel>("model");
+    QTest::addColumn<int>("idByte");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("frame");
+
+    QTest::newRow("classic serial") << model(Classic, Serial) << 0x85 << 2 << "01"_ba
+                                    << "85 02 01"_ba;
+    QTest::newRow("classic TCP/IP") << model(Classic, TcpIp) << 0x80 << 2 << "01"_ba
+                                    << "80 02 01"_ba;
+    QTest::newRow("extended serial: no ID byte") << model(Extended, Serial) << 0x85 << 2 << "01"_ba
+                                                 << "02 01"_ba;
+    QTest::newRow("extended TCP/IP: no ID byte") << model(Extended, TcpIp) << 0x85 << 2 << "01"_ba
+                                                 << "02 01"_ba;
+    QTest::newRow("classic, no body") << model(Classic, Serial) << 0x80 << 8 << ""_ba
+                                      << "80 08"_ba;
+    QTest::newRow("extended, no body") << model(Extended, TcpIp) << 0x80 << 4 << ""_ba
+                                       << "04"_ba;
+    QTest::newRow("classic, zeros") << model(Classic, Serial) << 0 << 0 << "00 00"_ba
+                                    << "00 00 00 00"_ba;
+    QTest::newRow("classic, highest bytes") << model(Classic, Serial) << 255 << 255 << "FF FF"_ba
+                                            << "FF FF FF FF"_ba;
+}
+
+void tst_FrameEncoder::wireFrame()
+{
+    QFETCH(DeviceModel, model);
+    QFETCH(int, idByte);
+    QFETCH(int, code);
+    QFETCH(QByteArray, body);
+    QTEST(hex(::wireFrame(model, static_cast<quint8>(idByte), static_cast<quint8>(code),
+                          QByteArray::fromHex(body))),
+          "frame");
+}
+
+void tst_FrameEncoder::wholeMessage_data()
+{
+    QTest::addColumn<DeviceModel>("model");
+    QTest::addColumn<QString>("playerId");
+    QTest::addColumn<quint32>("commandId");
+    QTest::addColumn<QByteArray>("frame");
+
+    const CommandEntry play = command(4, 2, "01");
+    QTest::newRow("classic, player 5")
+        << model(Classic, Serial, {play}) << u"5"_s << 4U << "85 02 01"_ba;
+    QTest::newRow("extended serial, same command")
+        << model(Extended, Serial, {play}) << u"5"_s << 4U << "02 01"_ba;
+    QTest::newRow("classic, empty player ID")
+        << model(Classic, Serial, {play}) << u""_s << 4U << "80 02 01"_ba;
+    const DeviceModel onDemand = model(
+        Extended, TcpIp,
+        {command(4, 4, "FF FF 33 32"), command(6, 4, "FF FF 33 33"), command(5, 4, "FF FF")});
+    QTest::newRow("connect on demand, play")
+        << onDemand << u"0"_s << 4U
+        << "04 00 00 00 63 6D 64 00 33 32 00 32 35 35 00 32 35 35 00"_ba;
+    QTest::newRow("connect on demand, pause: no arguments")
+        << onDemand << u"0"_s << 6U << "04 00 00 00 63 6D 64 00 33 33 00"_ba;
+    QTest::newRow("connect on demand, data too short for a text command")
+        << model(Extended, TcpIp, {command(2, 4, "FF FF")}) << u"0"_s << 2U << "04"_ba;
+}
+
+void tst_FrameEncoder::wholeMessage()
+{
+    QFETCH(DeviceModel, model);
+    QFETCH(QString, playerId);
+    QFETCH(quint32, commandId);
+
+    quint8 code = 0;
+    QByteArray body;
+    QVERIFY(::appendCommand(model, commandId, code, body));
+    ::appendPlaybackArguments(model, commandId, body);
+    QTEST(hex(::wireFrame(model, ::playerIdByteFromText(playerId), code, body)), "frame");
+}
+
+QTEST_APPLESS_MAIN(tst_FrameEncoder)
+
+#include "tst_frameencoder.moc"
