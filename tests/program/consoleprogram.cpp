@@ -1,0 +1,312 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/program/consoleprogram.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QSignalSpy>
+
+#include <chrono>
+#include <cstdlib>
+
+#include <signal.h>
+#include <sys/prctl.h>
+#include <xcb/xcb.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int timeLimit = 20'000; // in ms; reached only by what fails
+
+/// Its output, and nothing when it fails: looking for a window that is not there is such a failure.
+QString xdotool(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(u"xdotool"_s, arguments);
+    if (!process.waitForFinished(timeLimit) || process.exitCode() != 0)
+        return {};
+    return QString::fromLatin1(process.readAllStandardOutput());
+}
+
+bool runXdotool(const QStringList &arguments)
+{
+    const int exitCode = QProcess::execute(u"xdotool"_s, arguments);
+    if (exitCode != 0)
+        qWarning() << "xdotool" << arguments << "gave" << exitCode;
+    return exitCode == 0;
+}
+
+template<typename Condition>
+bool waitFor(const char *what, Condition condition)
+{
+    const bool done = QTest::qWaitFor(condition, timeLimit);
+    if (!done)
+        qWarning("waited in vain: %s", what);
+    return done;
+}
+
+QImage screenshot(const QRect &area)
+{
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, area.x(), area.y(), area.width(), area.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name)
+{
+    const auto cookie
+        = xcb_intern_atom(connection, false, static_cast<uint16_t>(name.size()), name.constData());
+    xcb_intern_atom_reply_t *reply = xcb_intern_atom_reply(connection, cookie, nullptr);
+    const xcb_atom_t result = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    std::free(reply);
+    return result;
+}
+
+} // namespace
+
+ConsoleProgram::ConsoleProgram(const QString &extraPorts)
+{
+    const QString path = QStringLiteral(TESSALY_PROGRAM);
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, m_home.path());
+    environment.insert(u"XDG_DATA_HOME"_s, m_home.path());
+    environment.insert(u"TESSALY_EXTRA_PORTS"_s, extraPorts);
+    m_process.setProcessEnvironment(environment);
+    m_process.setProgram(path);
+    m_process.setWorkingDirectory(QFileInfo(path).path());
+    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    // A test that is killed takes the program with it.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+
+    qputenv("TESSALY_EXTRA_PORTS", extraPorts.toLocal8Bit());
+    m_twin = std::make_unique<MainWindow>();
+    m_twin->setAttribute(Qt::WA_DontShowOnScreen);
+    m_twin->show();
+}
+
+ConsoleProgram::~ConsoleProgram()
+{
+    if (!isRunning())
+        return;
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+bool ConsoleProgram::start()
+{
+    m_process.start();
+    return waitFor("the main window", [this] { return hasWindow(title()); }) && focus(title());
+}
+
+bool ConsoleProgram::endsWell()
+{
+    if (!waitFor("the program's end", [this] { return !isRunning(); }))
+        return false;
+    if (m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0)
+        return true;
+    qWarning() << "ended with" << m_process.exitStatus() << m_process.exitCode();
+    return false;
+}
+
+void ConsoleProgram::expectLink(bool open)
+{
+    for (const char *name :
+         {"frame_Player", "frame_Port", "frame_Baudrate", "frame_Settings", "pushButton_Connect"}) {
+        twin<QWidget>(name)->setEnabled(!open);
+    }
+    for (const char *name : {"pushButton_Disconnect", "frame_Commands"})
+        twin<QWidget>(name)->setEnabled(open);
+}
+
+bool ConsoleProgram::looksAsExpected() const
+{
+    return looksLike(m_twin.get(), title());
+}
+
+bool ConsoleProgram::looksLike(const QWidget *twin, const QString &title) const
+{
+    QString found;
+    const bool alike = QTest::qWaitFor(
+        [&] {
+            found = difference(twin, title);
+            return found.isEmpty();
+        },
+        timeLimit);
+    if (!alike) {
+        qWarning() << "the window does not look as expected:" << found;
+        saveScreenshot(u"unexpected"_s, title);
+    }
+    return alike;
+}
+
+/// Labels only: their look depends neither on the keyboard's focus nor on where the mouse is.
+QString ConsoleProgram::difference(const QWidget *twin, const QString &title) const
+{
+    const QRect area = geometry(title);
+    if (area.size() != twin->size()) {
+        return u"window of %1 x %2 pixels"_s.arg(QString::number(area.width()),
+                                                 QString::number(area.height()));
+    }
+    // A text that the twin got just now may still have the size of the former one.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    const QImage shown = screenshot(area);
+    const QImage expected
+        = const_cast<QWidget *>(twin)->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    for (const QLabel *label : twin->findChildren<QLabel *>()) {
+        // With an open link the sent bytes can be selected; there copies() reads them.
+        const bool selectable
+            = label->isEnabled() && label->objectName() == "label_Bytes_Sended"_L1;
+        if (!label->isVisible() || selectable)
+            continue;
+        const QRect place(label->mapTo(twin, QPoint()), label->size());
+        if (shown.copy(place) != expected.copy(place))
+            return label->objectName() + " \""_L1 + label->text() + u'"';
+    }
+    return {};
+}
+
+bool ConsoleProgram::click(const char *widget)
+{
+    if (!looksAsExpected())
+        return false;
+    const auto *target = twin<QWidget>(widget);
+    if (!target->isVisible() || !target->isEnabled()) {
+        qWarning("%s is not to be clicked", widget);
+        return false;
+    }
+    const QPoint point
+        = geometry(title()).topLeft() + target->mapTo(m_twin.get(), target->rect().center());
+    return runXdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y()),
+                       u"click"_s, u"1"_s});
+}
+
+bool ConsoleProgram::press(const QStringList &keys) const
+{
+    return runXdotool(QStringList{u"key"_s} + keys);
+}
+
+bool ConsoleProgram::choose(const char *comboBox, const QStringList &keys, int expectedRow)
+{
+    if (!click(comboBox) || !waitFor("the opened list", [this] { return windowCount() == 2; })
+        || !press(keys + QStringList{u"Return"_s})
+        || !waitFor("the closed list", [this] { return windowCount() == 1; })) {
+        return false;
+    }
+    auto *list = twin<QComboBox>(comboBox);
+    list->setCurrentIndex(expectedRow);
+    emit list->activated(expectedRow);
+    return true;
+}
+
+bool ConsoleProgram::choose(const char *comboBox, const QString &text)
+{
+    const int row = twin<QComboBox>(comboBox)->findText(text);
+    if (row < 0) {
+        qWarning() << text << "is not in" << comboBox;
+        return false;
+    }
+    return choose(comboBox, QStringList{u"Home"_s} + QStringList(row, u"Down"_s), row);
+}
+
+bool ConsoleProgram::copies(const QString &text) const
+{
+    QString copied;
+    // Until the owner's announcement is here, the owner refuses the test as one that comes too
+    // late.
+    QSignalSpy announced(QGuiApplication::clipboard(), &QClipboard::dataChanged);
+    const bool done = QTest::qWaitFor(
+        [&] {
+            announced.clear();
+            if (!press({u"ctrl+a"_s, u"ctrl+c"_s}) || !announced.wait(1000))
+                return false;
+            copied = QGuiApplication::clipboard()->text();
+            return copied == text;
+        },
+        timeLimit);
+    if (!done) {
+        qWarning() << "copied" << copied << "instead of" << text;
+        saveScreenshot(u"unexpected"_s);
+    }
+    return done;
+}
+
+QStringList ConsoleProgram::search(const QString &title) const
+{
+    QStringList arguments{u"search"_s, u"--all"_s, u"--onlyvisible"_s, u"--pid"_s,
+                          QString::number(m_process.processId())};
+    if (!title.isEmpty())
+        arguments += {u"--name"_s, u'^' + title + u'$'};
+    return arguments;
+}
+
+qsizetype ConsoleProgram::windowCount() const
+{
+    return xdotool(search()).count(u'\n');
+}
+
+bool ConsoleProgram::hasWindow(const QString &title) const
+{
+    return !xdotool(search(title)).isEmpty();
+}
+
+QRect ConsoleProgram::geometry(const QString &title) const
+{
+    const QString text = xdotool(search(title) + QStringList{u"getwindowgeometry"_s, u"--shell"_s});
+    const auto value = [&text](const char *name) {
+        const QRegularExpression line(u"^%1=(-?\\d+)$"_s.arg(QLatin1StringView(name)),
+                                      QRegularExpression::MultilineOption);
+        return line.match(text).captured(1).toInt();
+    };
+    return {value("X"), value("Y"), value("WIDTH"), value("HEIGHT")};
+}
+
+bool ConsoleProgram::focus(const QString &title) const
+{
+    return waitFor("the keyboard's focus", [&] {
+        const QString window = xdotool(search(title)).trimmed();
+        if (window.isEmpty())
+            return false;
+        xdotool({u"windowfocus"_s, window});
+        return xdotool({u"getwindowfocus"_s, u"-f"_s}).trimmed() == window;
+    });
+}
+
+bool ConsoleProgram::requestClose(const QString &title) const
+{
+    const auto window = xdotool(search(title)).trimmed().toUInt();
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (window == 0 || !x11)
+        return false;
+
+    xcb_connection_t *connection = x11->connection();
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(connection, "WM_PROTOCOLS");
+    event.data.data32[0] = atom(connection, "WM_DELETE_WINDOW");
+    xcb_send_event(connection, false, window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&event));
+    return xcb_flush(connection) > 0;
+}
+
+QString ConsoleProgram::title()
+{
+    return u"Tessaly 1.2.8.0"_s;
+}
+
+bool ConsoleProgram::saveScreenshot(const QString &name, const QString &windowTitle) const
+{
+    const QDir folder(QStringLiteral(TESSALY_SCREENSHOTS));
+    return folder.mkpath(u"."_s)
+           && screenshot(geometry(windowTitle)).save(folder.filePath(name + ".png"_L1));
+}

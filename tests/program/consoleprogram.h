@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/mainwindow.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// The built program on the test's X display, with the moves of its user: real clicks and keys.
+///
+/// A window of the test's own, the twin, tells where the program's widgets are and what they
+/// should look like. It is never shown and opens no link; the moves below keep its lists in step,
+/// and the test sets what else it expects to see. Before a click the program has to show every
+/// label of the twin, in its place and state, so that no click comes too early.
+///
+/// What returns a bool waits until it is done, and warns and returns false when it is not done in
+/// time.
+class ConsoleProgram
+{
+public:
+    /// \a extraPorts serial ports to offer besides the platform's, separated by ':'
+    explicit ConsoleProgram(const QString &extraPorts);
+    ~ConsoleProgram();
+    Q_DISABLE_COPY_MOVE(ConsoleProgram)
+
+    /// Returns when the main window is shown and has the keyboard.
+    bool start();
+    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    /// Waits until the program has ended by itself with exit code 0.
+    bool endsWell();
+
+    template<typename T>
+    T *twin(const char *name) const
+    {
+        T *object = m_twin->findChild<T *>(QString::fromLatin1(name));
+        if (!object)
+            qFatal("no %s in the window", name);
+        return object;
+    }
+    /// Gives the twin the look of a window with or without an open link.
+    void expectLink(bool open);
+    bool looksAsExpected() const;
+    /// Like looksAsExpected(), for another window of the program and a twin of that.
+    bool looksLike(const QWidget *twin, const QString &title) const;
+
+    bool click(const char *widget);
+    /// Presses one key after the other, named as xdotool names them: {"ctrl+5", "Return"}.
+    bool press(const QStringList &keys) const;
+    /// Opens a list with the mouse, presses the keys and takes the row with Return.
+    bool choose(const char *comboBox, const QStringList &keys, int expectedRow);
+    /// Opens a list with the mouse and goes from its top to the row of that text.
+    bool choose(const char *comboBox, const QString &text);
+    /// Waits until "select all" and "copy" in the widget clicked last give that text.
+    bool copies(const QString &text) const;
+
+    bool hasWindow(const QString &title) const;
+    /// Gives a window the keyboard, which nobody does without a window manager.
+    bool focus(const QString &title) const;
+    /// Asks a window to close, as a window manager does for a click on the title bar's cross.
+    bool requestClose(const QString &title) const;
+
+    static QString title();
+    /// Writes what a window shows, as a picture of that name.
+    bool saveScreenshot(const QString &name, const QString &windowTitle = title()) const;
+
+private:
+    /// What xdotool finds the program's shown windows with: all, or those of a title.
+    QStringList search(const QString &title = {}) const;
+    qsizetype windowCount() const;
+    QRect geometry(const QString &title) const;
+    QString difference(const QWidget *twin, const QString &title) const;
+
+    QTemporaryDir m_home;
+    QProcess m_process;
+    std::unique_ptr<MainWindow> m_twin;
+};

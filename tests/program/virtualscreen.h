@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+
+#include <sys/types.h>
+
+/// An X server without a screen, at a display number of its own, for as long as the object lives.
+/// It needs no application object, so that the test's own one can be created on it. When the test
+/// is killed, it ends together with its last client.
+class VirtualScreen
+{
+public:
+    VirtualScreen() = default;
+    ~VirtualScreen();
+    Q_DISABLE_COPY_MOVE(VirtualScreen)
+
+    /// Returns when the server accepts clients.
+    /// \return false when there is no such program, or it ends or says nothing for 30 seconds
+    bool start();
+
+    /// For the environment variable DISPLAY: ":99".
+    QByteArray displayName() const { return m_displayName; }
+
+private:
+    pid_t m_process = -1;
+    QByteArray m_displayName;
+};
