@@ -157,6 +157,9 @@ void tst_Received::forms_data()
         << "A942"_ba << u"{fffd}B"_s << u" A9 42"_s << u" 169 66"_s;
     QTest::newRow("never part of UTF-8")
         << "FEFF"_ba << u"{fffd}{fffd}"_s << u" FE FF"_s << u" 254 255"_s;
+    // Every byte is decoded, also those that Qt leaves out by itself.
+    QTest::newRow("byte-order mark")
+        << "EFBBBF41"_ba << u"{feff}A"_s << u" EF BB BF 41"_s << u" 239 187 191 65"_s;
     QTest::newRow("line end") << "0D0A"_ba << u"{000d}{000a}"_s << u" 0D 0A"_s << u" 13 10"_s;
 }
 
