@@ -33,6 +33,8 @@ DeviceCatalogue deviceCatalogue;
 
 bool sentBytesShownInHex = true;
 
+std::function<QDateTime()> currentMoment = [] { return QDateTime::currentDateTime(); };
+
 void setApplicationIdentity()
 {
     QCoreApplication::setApplicationName(u"Tessaly"_s);

@@ -5,8 +5,11 @@
 
 #include "catalogue/devicecatalogue.h"
 
+#include <QDateTime>
 #include <QLocale>
 #include <QString>
+
+#include <functional>
 
 class QSerialPort;
 class QTcpSocket;
@@ -39,6 +42,9 @@ extern DeviceCatalogue deviceCatalogue; ///< filled once by the window's constru
 
 /// Base of the tokens that the sent-bytes display shows now; new commands follow the buttons.
 extern bool sentBytesShownInHex;
+
+/// The moment that the clock commands send: the computer's clock, unless a test sets another.
+extern std::function<QDateTime()> currentMoment;
 
 /// Name, version and maker of the program, for the settings folder and the texts that show them.
 /// To be called before the application object is created.

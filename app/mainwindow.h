@@ -160,6 +160,7 @@ private:
     const DeviceModel &selectedModel() const;
     bool anyLinkIsOpen() const;
     void sendFixedCommand(quint32 commandId);
+    void sendUnlessEmpty(quint8 code, const QByteArray &body);
     void showReceivedData(const QByteArray &bytes);
 
     void showConnectionPanel(const DeviceModel &model);

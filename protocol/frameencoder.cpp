@@ -4,6 +4,7 @@
 #include "protocol/frameencoder.h"
 
 #include "catalogue/listnumbers.h"
+#include "protocol/textmessage.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,22 +15,6 @@ constexpr quint8 textCommandCode = 4;
 
 /// The volume's text form counts from this value downwards: 64 is sent as 0, 0 as -64.
 constexpr int loudestTextVolume = 64;
-
-// Text messages of the connect-on-demand family, behind the code byte:
-//
-//     00 00 00 | verb | 00 | name | 00 [ | argument | 00 ... ]
-//
-// verb is "cmd", "get" or "set", in ASCII as are name and arguments.
-QByteArray textMessage(const QByteArray &verb, const QByteArray &name)
-{
-    return QByteArray(3, '\0') + verb + '\0' + name + '\0';
-}
-
-/// The first two bytes of `data` hold a range, the name stands behind them.
-bool holdsTextName(const CommandEntry &entry)
-{
-    return entry.data.size() >= 3 && entry.dataMax.size() >= 3;
-}
 
 } // namespace
 
@@ -44,7 +29,7 @@ bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QB
         if (!model.connectsOnDemand())
             body += entry.data;
         else if (entry.code == textCommandCode && holdsTextName(entry))
-            body += textMessage("cmd"_ba, entry.data.sliced(2));
+            body += textMessage("cmd"_ba, textName(entry));
     }
     return found;
 }
@@ -102,6 +87,20 @@ void applyFirstByte(int value, QByteArray &body)
 {
     if (!body.isEmpty())
         body[0] = static_cast<char>(value);
+}
+
+void addToFirstByte(int value, QByteArray &body)
+{
+    if (!body.isEmpty())
+        applyFirstByte(body.front() + value, body);
+}
+
+QByteArray languageCodeBytes(const QString &languageCode)
+{
+    QByteArray bytes;
+    for (const QChar character : languageCode)
+        bytes += character.unicode() < 256 ? static_cast<char>(character.unicode()) : '\0';
+    return bytes;
 }
 
 quint8 playerIdByteFromText(const QString &playerId)

@@ -35,6 +35,12 @@ void applyFolderNumber(int folder, quint8 &code, QByteArray &body);
 /// Overwrites the first body byte with the low 8 bits of `value`; an empty body stays empty.
 void applyFirstByte(int value, QByteArray &body);
 
+/// Adds to the first body byte, modulo 256; an empty body stays empty.
+void addToFirstByte(int value, QByteArray &body);
+
+/// A subtitle language as the device reads it: one byte per character, 0 for those above 255.
+QByteArray languageCodeBytes(const QString &languageCode);
+
 /// First byte of a classic frame for the text of the player ID list: 128 + ID, modulo 256. A text
 /// that is no 32-bit number, the empty one included, addresses player 0.
 quint8 playerIdByteFromText(const QString &playerId);

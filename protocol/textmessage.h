@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "catalogue/commandentry.h"
+
+#include <QByteArray>
+
+// Text messages of the extended family over TCP/IP, behind the code byte:
+//
+//     00 00 00 | verb | 00 | name | 00 [ | argument | 00 ... ]
+//
+// All parts are ASCII; the verb is "cmd", "get" or "set".
+
+/// The message up to the zero behind the name; arguments follow it.
+QByteArray textMessage(const QByteArray &verb, const QByteArray &name);
+
+/// Whether the entry has a name for a text message: it stands behind the two range or filler bytes
+/// of `data`, and `dataMax` has to be as long as three bytes, too.
+bool holdsTextName(const CommandEntry &entry);
+
+/// The name; only for an entry that holds one.
+QByteArray textName(const CommandEntry &entry);
