@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+// The configuration file as plain text: 24 lines, each label line followed by its value lines.
+// Readers go by the order alone.
+
+enum class LanguageChoice { Default, English, French };
+enum class SentForm { Hex, Dec };
+enum class DataForm { Ascii, Hex, Dec };
+
+/// What the window saves. An empty text or option is written as the placeholder "(default)".
+struct SavedSettings
+{
+    LanguageChoice language = LanguageChoice::Default;
+    QString model;
+    QString port;
+    QString baudRate;
+    std::array<int, 4> address = {};
+    bool autoConnection = false;
+    QString playerId;
+    std::optional<SentForm> sentForm;
+    std::optional<DataForm> dataForm;
+};
+
+/// The 24 lines, without line ends.
+QStringList configLines(const SavedSettings &settings);
+
+/// Whether a file that begins with this line is one of ours: it contains magic and format version,
+/// anywhere.
+bool isConfigHead(const QString &line);
+
+/// \name What a value line means
+/// A line that means nothing, the empty line of a cut file included, gives the default or no value.
+/// @{
+LanguageChoice languageFromLine(const QString &line);
+/// One number of the IP address, 0 to 255.
+std::optional<int> addressPartFromLine(const QString &line);
+/// Any whole number but 0 switches it on.
+bool autoConnectionFromLine(const QString &line);
+std::optional<SentForm> sentFormFromLine(const QString &line);
+std::optional<DataForm> dataFormFromLine(const QString &line);
+/// @}
