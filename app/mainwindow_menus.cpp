@@ -1,12 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "app/aboutwindow.h"
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QTranslator>
+#include <QUrl>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView supportAddress("support@ambrette.example");
+
+} // namespace
 
 void MainWindow::applyLanguage()
 {
@@ -55,8 +66,25 @@ void MainWindow::on_action_French_triggered()
     applyLanguage();
 }
 
-void MainWindow::on_action_Website_triggered() {}
+void MainWindow::on_action_Website_triggered()
+{
+    QDesktopServices::openUrl(QUrl(QCoreApplication::organizationDomain(), QUrl::TolerantMode));
+}
 
-void MainWindow::on_action_Contact_Technical_Support_triggered() {}
+void MainWindow::on_action_Contact_Technical_Support_triggered()
+{
+    const QString message
+        = "mailto:"_L1 + supportAddress + "?subject="_L1 + tr("Support request (from:") + u' '
+          + QCoreApplication::applicationName() + " - "_L1 + QCoreApplication::applicationVersion()
+          + ")&body="_L1 + tr("( write here your question... )");
+    QDesktopServices::openUrl(QUrl(message, QUrl::TolerantMode));
+}
 
-void MainWindow::on_action_About_triggered() {}
+void MainWindow::on_action_About_triggered()
+{
+    // Not deleted when it is closed: each trigger makes a dialog of its own.
+    auto *dialog = new aboutwindow;
+    dialog->fillAboutText();
+    dialog->setWindowFlags(Qt::WindowCloseButtonHint);
+    dialog->show();
+}
