@@ -3,6 +3,8 @@
 
 #include "tests/program/consoleprogram.h"
 
+#include "tests/support/testmain.h"
+
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
@@ -88,6 +90,7 @@ ConsoleProgram::ConsoleProgram(const QString &extraPorts)
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 
     qputenv("TESSALY_EXTRA_PORTS", extraPorts.toLocal8Bit());
+    forgetSavedSettings();
     m_twin = std::make_unique<MainWindow>();
     m_twin->setAttribute(Qt::WA_DontShowOnScreen);
     m_twin->show();

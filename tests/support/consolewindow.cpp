@@ -6,28 +6,16 @@
 #include "app/applicationobjects.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
+#include "tests/support/testmain.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QHostAddress>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 
-namespace {
-
-/// Every window begins with the defaults, whatever an earlier one has saved.
-QWidget *withoutSavedSettings()
-{
-    if (!configFilePath.isEmpty())
-        QFile::remove(configFilePath);
-    return nullptr;
-}
-
-} // namespace
-
 ConsoleWindow::ConsoleWindow(std::chrono::milliseconds connectTimeLimit)
-    : window(withoutSavedSettings(), connectTimeLimit)
+    : window((forgetSavedSettings(), nullptr), connectTimeLimit)
 {
     window.show();
 }

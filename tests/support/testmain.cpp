@@ -5,6 +5,7 @@
 
 #include "app/applicationobjects.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 void prepareTestEnvironment()
@@ -19,4 +20,10 @@ void prepareTestEnvironment()
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     setApplicationIdentity();
+}
+
+void forgetSavedSettings()
+{
+    if (!configFilePath.isEmpty())
+        QFile::remove(configFilePath);
 }

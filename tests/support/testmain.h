@@ -9,6 +9,9 @@
 /// application object is created.
 void prepareTestEnvironment();
 
+/// Lets the next window begin with the defaults, whatever an earlier one has saved.
+void forgetSavedSettings();
+
 // main() of a test program that has windows.
 #define TESSALY_TEST_MAIN(TestClass) \
     int main(int argc, char *argv[]) \
