@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/ptypeer.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int patience = 20'000; // milliseconds; for the start of a program on a busy machine
+
+QByteArray read(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(no file)"_ba;
+}
+
+bool write(const QString &name, const QByteArray &bytes)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+/// A difference then names its line.
+QByteArrayList linesOf(const QByteArray &bytes)
+{
+    return bytes.split('\n');
+}
+
+QByteArray untouchedFile(const QByteArray &port)
+{
+    return "TSY11.00\n"
+           "Tessaly (Configuration File)\n"
+           "Generate by: Tessaly 1.2.8.0\n"
+           "*** Default Language:\n"
+           "(default)\n"
+           "*** Default Device:\n"
+           "Tempo Deck\n"
+           "*** Default Serial Port:\n"
+           + port
+           + "\n"
+             "*** Default Baudrate:\n"
+             "19200\n"
+             "*** Default IP Address:\n"
+             "0\n"
+             "0\n"
+             "0\n"
+             "0\n"
+             "*** Default Auto-connection:\n"
+             "0\n"
+             "*** Default Player ID:\n"
+             "0\n"
+             "*** Default Command Bytes Sent Setting:\n"
+             "2\n"
+             "*** Default Data Received Setting:\n"
+             "1\n";
+}
+
+QByteArray editedFile(const QByteArray &port, const QByteArray &playerId)
+{
+    return "TSY11.00\n"
+           "Tessaly (Configuration File)\n"
+           "Generate by: Tessaly 1.2.8.0\n"
+           "*** Default Language:\n"
+           "French\n"
+           "*** Default Device:\n"
+           "Vistar Home - HV4xx (Serial)\n"
+           "*** Default Serial Port:\n"
+           + port
+           + "\n"
+             "*** Default Baudrate:\n"
+             "38400\n"
+             "*** Default IP Address:\n"
+             "192\n"
+             "168\n"
+             "0\n"
+             "255\n"
+             "*** Default Auto-connection:\n"
+             "1\n"
+             "*** Default Player ID:\n"
+           + playerId
+           + "\n"
+             "*** Default Command Bytes Sent Setting:\n"
+             "3\n"
+             "*** Default Data Received Setting:\n"
+             "2\n";
+}
+
+} // namespace
+
+/// Starts the real program on a display of its own and ends it by its own shortcut: a program that
+/// is killed saves nothing.
+class tst_restart : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+
+    void twoStarts();
+    void untouchedTwice();
+    void fileOfAnotherProgram();
+
+private:
+    QString path() const;
+    /// Waits for the program's window and types into it.
+    bool typeKeys(const QStringList &keys);
+    bool focusWindow();
+    bool runTool(const QStringList &arguments, QByteArray *output = nullptr);
+    void startProgram();
+    void endProgram();
+
+    QProcess m_display;
+    QProcess m_program;
+    QProcessEnvironment m_environment;
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<PtyPeer> m_peer;
+};
+
+QString tst_restart::path() const
+{
+    return m_home->filePath(u"Ambrette/Tessaly/Tessaly.cfg"_s);
+}
+
+void tst_restart::initTestCase()
+{
+    m_display.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // The server picks a free display and tells its number on its standard output. Without
+    // -noreset it would begin anew, and lose the program, when the last xdotool has gone.
+    m_display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1024x1000x24"_s,
+                                u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
+    QVERIFY2(m_display.waitForStarted(patience), qPrintable(m_display.errorString()));
+    QTRY_VERIFY_WITH_TIMEOUT(m_display.canReadLine(), patience);
+
+    m_environment = QProcessEnvironment::systemEnvironment();
+    m_environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(m_display.readLine().trimmed()));
+    m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    m_environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    m_environment.remove(u"LANGUAGE"_s);
+    m_environment.remove(u"WAYLAND_DISPLAY"_s);
+}
+
+void tst_restart::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    m_peer = std::make_unique<PtyPeer>();
+    QVERIFY(m_home->isValid());
+    m_environment.insert(u"HOME"_s, m_home->path());
+    m_environment.insert(u"XDG_DATA_HOME"_s, m_home->path());
+    m_environment.insert(u"TESSALY_EXTRA_PORTS"_s, m_peer->portName());
+}
+
+void tst_restart::cleanup()
+{
+    if (m_program.state() != QProcess::NotRunning) {
+        m_program.kill();
+        m_program.waitForFinished(patience);
+    }
+}
+
+void tst_restart::cleanupTestCase()
+{
+    m_display.terminate();
+    if (!m_display.waitForFinished(patience))
+        m_display.kill();
+}
+
+bool tst_restart::runTool(const QStringList &arguments, QByteArray *output)
+{
+    QProcess tool;
+    tool.setProcessEnvironment(m_environment);
+    tool.start(u"xdotool"_s, arguments);
+    if (!tool.waitForFinished(patience)) {
+        qWarning("xdotool %s does not end", qPrintable(arguments.join(u' ')));
+        tool.kill();
+        tool.waitForFinished(patience);
+        return false;
+    }
+    if (output)
+        *output = tool.readAllStandardOutput().trimmed();
+    return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
+}
+
+bool tst_restart::focusWindow()
+{
+    // There is no window manager that would give the focus to the new window.
+    QByteArray window;
+    QByteArray focus;
+    return runTool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Tessaly 1\\.2\\.8\\.0$"_s},
+                   &window)
+           && runTool({u"windowfocus"_s, QString::fromLatin1(window)})
+           && runTool({u"getwindowfocus"_s, u"-f"_s}, &focus) && focus == window;
+}
+
+bool tst_restart::typeKeys(const QStringList &keys)
+{
+    return QTest::qWaitFor([this] { return focusWindow(); }, patience)
+           && runTool(QStringList{u"key"_s} + keys);
+}
+
+void tst_restart::startProgram()
+{
+    const QString bin = QCoreApplication::applicationDirPath();
+    m_program.setProcessEnvironment(m_environment);
+    m_program.setWorkingDirectory(bin);
+    m_program.setProcessChannelMode(QProcess::ForwardedOutputChannel);
+    m_program.start(bin + u"/tessaly"_s, QStringList());
+    QVERIFY2(m_program.waitForStarted(patience), qPrintable(m_program.errorString()));
+}
+
+void tst_restart::endProgram()
+{
+    QVERIFY(typeKeys({u"ctrl+q"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_program.state(), QProcess::NotRunning, patience);
+    QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(m_program.exitCode(), 0);
+}
+
+void tst_restart::twoStarts()
+{
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    endProgram();
+    if (QTest::currentTestFailed())
+        return;
+    // A machine with serial ports of its own lists them first.
+    const QByteArray firstPort = linesOf(read(path())).value(8);
+    const QByteArray port = m_peer->portName().toLatin1();
+    QVERIFY2(firstPort == port || firstPort.startsWith("tty"), firstPort.constData());
+    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(firstPort)));
+
+    QVERIFY(write(path(), editedFile(port, "12")));
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    // Connected by itself, to the port of the file, as player 0: the ID is never restored.
+    QVERIFY(typeKeys({u"ctrl+5"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_peer->received().toHex(' '), "80 01 05"_ba, patience);
+    endProgram();
+    if (QTest::currentTestFailed())
+        return;
+    QCOMPARE(linesOf(read(path())), linesOf(editedFile(port, "0")));
+
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    endProgram();
+    QCOMPARE(linesOf(read(path())), linesOf(editedFile(port, "0")));
+}
+
+void tst_restart::untouchedTwice()
+{
+    QByteArray first;
+    for (int start = 0; start < 2; ++start) {
+        startProgram();
+        if (QTest::currentTestFailed())
+            return;
+        QVERIFY(typeKeys({u"ctrl+5"_s})); // not connected: sends and saves nothing
+        if (start == 0)
+            QVERIFY(!QFile::exists(path()));
+        endProgram();
+        if (QTest::currentTestFailed())
+            return;
+        if (start == 0)
+            first = read(path());
+        QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(first).value(8))));
+    }
+    QVERIFY(m_peer->received().isEmpty());
+}
+
+void tst_restart::fileOfAnotherProgram()
+{
+    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
+    QVERIFY(write(path(), "TSY12.00\n" + QByteArray(100'000, '\xFF')));
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    endProgram();
+    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(read(path())).value(8))));
+}
+
+QTEST_GUILESS_MAIN(tst_restart)
+#include "tst_restart.moc"
