@@ -316,9 +316,9 @@ void tst_Startup::titleAndTextsSurviveTheLanguages()
 void tst_Startup::parentIsKept()
 {
     QWidget parent;
-    const auto *window = new MainWindow(&parent);
-    QCOMPARE(window->parentWidget(), &parent);
-    QVERIFY(window->isWindow());
+    const MainWindow window(&parent);
+    QCOMPARE(window.parentWidget(), &parent);
+    QVERIFY(window.isWindow());
 }
 
 void tst_Startup::parentlessWindowIsNotYetShown()

@@ -581,13 +581,5 @@ void tst_LabelledCommands::languageCode()
     QCOMPARE(hex(languageCodeBytes(value)), body);
 }
 
-int main(int argc, char *argv[])
-{
-    // The clock commands are told apart by what they carry, not by the zone that the test runs in.
-    qputenv("TZ", "UTC0");
-    tst_LabelledCommands test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_APPLESS_MAIN(tst_LabelledCommands)
 #include "tst_labelledcommands.moc"

@@ -758,7 +758,8 @@ void tst_Requests::clockIsTheComputers()
 
     const auto second = [](const Sent &sent) {
         qint64 result = 0;
-        for (const char group : QByteArray::fromHex(sent.bytes).sliced(2))
+        const QByteArray groups = QByteArray::fromHex(sent.bytes).sliced(2);
+        for (const char group : groups)
             result = result * 128 + group;
         return result;
     };

@@ -64,7 +64,7 @@ QString textOf(const QObject *object)
 
 QString classOf(const QObject *object)
 {
-    const QString name = QString::fromLatin1(object->metaObject()->className());
+    QString name = QString::fromLatin1(object->metaObject()->className());
     if (name == "MainWindow"_L1)
         return u"QMainWindow"_s;
     if (name != "QFrame"_L1)

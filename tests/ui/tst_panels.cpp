@@ -1176,8 +1176,8 @@ void tst_Panels::textsAreTranslated()
              "{ or higher. If the device embed a lower firmware version, some commands may not be "
              "executed. Refer to the release notes of this application for more information.}"_s);
     // Labels of commands are the devices' own.
-    QCOMPARE(rowsOf(console.window, "comboBox_Request").first(), u"Player Status"_s);
-    QCOMPARE(rowsOf(console.window, "comboBox_Subtitles_Type").first(), u"ISO639-2 (B)"_s);
+    QCOMPARE(rowsOf(console.window, "comboBox_Request").constFirst(), u"Player Status"_s);
+    QCOMPARE(rowsOf(console.window, "comboBox_Subtitles_Type").constFirst(), u"ISO639-2 (B)"_s);
 }
 
 void tst_Panels::hideCommandPanelsHidesAll()
