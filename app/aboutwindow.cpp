@@ -39,8 +39,8 @@ QString aboutwindow::operatingSystemText() const
 #ifdef Q_OS_WIN
     return tr("Microsoft") + u' ' + QSysInfo::productType() + u' ' + QSysInfo::productVersion();
 #else
-    // Where Qt knows nothing, it says so in English.
+    // Where Qt knows nothing, it says "unknown"; the spelling of ours is deliberate.
     const QString product = QSysInfo::prettyProductName();
-    return product.isEmpty() || product == "unknown"_L1 ? tr("Unkown OS") /* sic */ : product;
+    return product.isEmpty() || product == "unknown"_L1 ? tr("Unkown OS") : product;
 #endif
 }

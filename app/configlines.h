@@ -9,8 +9,8 @@
 #include <array>
 #include <optional>
 
-// The configuration file as plain text: 24 lines, each label line followed by its value lines.
-// Readers go by the order alone.
+// The configuration file as plain text: three head lines, then labels, each followed by its value
+// lines; 24 lines in all. Readers check the first line and go by the order alone from there.
 
 enum class LanguageChoice { Default, English, French };
 enum class SentForm { Hex, Dec };
@@ -43,7 +43,7 @@ bool isConfigHead(const QString &line);
 LanguageChoice languageFromLine(const QString &line);
 /// One number of the IP address, 0 to 255.
 std::optional<int> addressPartFromLine(const QString &line);
-/// Any whole number but 0 switches it on.
+/// Any 32-bit number but 0 switches it on.
 bool autoConnectionFromLine(const QString &line);
 std::optional<SentForm> sentFormFromLine(const QString &line);
 std::optional<DataForm> dataFormFromLine(const QString &line);

@@ -29,7 +29,10 @@ public:
     Q_DISABLE_COPY_MOVE(MainWindow)
 
     // Configuration file and language (app/)
+    /// Takes over what the file holds and the window offers; says nothing of what it cannot use.
+    /// \a path the file; an empty one stands for the file beside the program, for saving too
     void loadConfig(QString path);
+    /// Writes the file, silently also when it cannot, and a trace of it into the received text.
     void saveConfig(QString path);
     void applyLanguage();
     void uncheckLanguageActions();

@@ -38,6 +38,7 @@ void MainWindow::saveConfig(QString path)
     if (path.isEmpty())
         path = pathBesideProgram();
 
+    // The two traces are deliberate. At the program's end, nobody sees them any more.
     m_ui->textEdit_Data->append(path + "(before save)"_L1);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Writes a 16-bit big-endian value over the first two bytes.
+/// Writes a 16-bit big-endian value over the first two bytes, which there must be.
 void writeWord(int value, QByteArray &body)
 {
     body[0] = static_cast<char>(value / 256);

@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Command bytes sent:</source>
-        <translation>Octets envoyés&#xa0;:</translation>
+        <translation>Octets de commande envoyés&#xa0;:</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
@@ -289,11 +289,11 @@
     </message>
     <message>
         <source>All commands present in this model can be executed for devices with firmware </source>
-        <translation>Toutes les commandes présentes dans ce modèle peuvent être exécutées par les appareils équipés de la version de firmware </translation>
+        <translation>Toutes les commandes présentes dans ce modèle peuvent être exécutées par les appareils équipés du firmware </translation>
     </message>
     <message>
         <source> or higher. If the device embed a lower firmware version, some commands may not be executed. Refer to the release notes of this application for more information.</source>
-        <translation> ou ultérieure. Si l’appareil embarque une version de firmware inférieure, certaines commandes pourront ne pas être exécutées. Reportez-vous aux notes de version de cette application pour plus d’informations.</translation>
+        <translation> ou d’une version ultérieure. Si l’appareil embarque une version de firmware inférieure, certaines commandes pourront ne pas être exécutées. Reportez-vous aux notes de version de cette application pour plus d’informations.</translation>
     </message>
 </context>
 <context>

@@ -279,6 +279,7 @@ private slots:
     void restored();
     void unusableLinesChangeNothing_data();
     void unusableLinesChangeNothing();
+    void addressOverAnother();
     void cutAfterLine_data();
     void cutAfterLine();
     void cutInsideLine_data();
@@ -821,6 +822,17 @@ void tst_config::unusableLinesChangeNothing()
     // The language alone falls back to its default.
     QCOMPARE(settingsOf(window), with(before, {{Language, u"Default"_s}}));
     QCOMPARE(widget<QComboBox>(window, "comboBox_Baudrate")->count(), 8);
+}
+
+void tst_config::addressOverAnother()
+{
+    QVERIFY(write(path(), changedFileWith({{13, "10"}, {14, "20"}, {15, "30"}, {16, "40"}})));
+    MainWindow window;
+    QCOMPARE(settingsOf(window).at(Address), u"10.20.30.40"_s);
+
+    QVERIFY(write(path(), changedFileWith({{13, "0"}, {14, "256"}, {15, "-1"}, {16, "255"}})));
+    window.loadConfig(path());
+    QCOMPARE(settingsOf(window).at(Address), u"0.20.30.255"_s);
 }
 
 void tst_config::cutAfterLine_data()

@@ -195,7 +195,7 @@ constexpr char16_t noteEnglish[]
       u"executed. Refer to the release notes of this application for more information.";
 constexpr char16_t noteFrench[]
     = u"Toutes les commandes présentes dans ce modèle peuvent être exécutées par les appareils "
-      u"équipés de la version de firmware AP 1.11 / MCU 1.05 ou ultérieure. Si l’appareil embarque "
+      u"équipés du firmware AP 1.11 / MCU 1.05 ou d’une version ultérieure. Si l’appareil embarque "
       u"une version de "
       u"firmware inférieure, certaines commandes pourront ne pas être exécutées. Reportez-vous aux "
       u"notes de version de cette application pour plus d’informations.";

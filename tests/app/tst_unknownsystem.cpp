@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QSysInfo>
+#include <QTranslator>
 
 #include <cerrno>
 #include <cstdarg>
@@ -60,6 +61,11 @@ void tst_UnknownSystem::aboutSaysSo()
 {
     const aboutwindow dialog;
     QCOMPARE(dialog.operatingSystemText(), u"Unkown OS"_s);
+
+    QTranslator french;
+    QVERIFY(french.load(u"LanguageData_fr"_s, QCoreApplication::applicationDirPath()));
+    QVERIFY(QCoreApplication::installTranslator(&french));
+    QCOMPARE(dialog.operatingSystemText(), u"Système d’exploitation inconnu"_s);
 }
 
 TESSALY_TEST_MAIN(tst_UnknownSystem)

@@ -747,6 +747,18 @@ void tst_Requests::clockIsReadAtTheClick()
     QCOMPARE(far.press("pushButton_Other_Command").bytes, "85 2C 1A 0C 1F 17 3B 3B"_ba);
     now = now.addSecs(1);
     QCOMPARE(far.press("pushButton_Other_Command").bytes, "85 2C 1B 01 01 00 00 00"_ba);
+
+    QVERIFY(far.console->selectText("comboBox_Other_Command",
+                                    u"Set UTC/GMT date/time (full version)"_s));
+    now = utc(2026, 12, 31, 23, 59, 59);
+    QCOMPARE(far.press("pushButton_Other_Command").bytes, "85 4C 1A 0C 1F 17 3B 3B"_ba);
+    now = now.addSecs(1);
+    QCOMPARE(far.press("pushButton_Other_Command").bytes, "85 4C 1B 01 01 00 00 00"_ba);
+
+    QVERIFY(far.console->selectText("comboBox_Other_Command",
+                                    u"Set UTC/GMT date/time (epoch version)"_s));
+    now = QDateTime::fromSecsSinceEpoch(1'700'000'000);
+    QCOMPARE(far.press("pushButton_Other_Command").bytes, "85 3C 06 2A 4F 62 00"_ba);
 }
 
 void tst_Requests::clockIsTheComputers()
