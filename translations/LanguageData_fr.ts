@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Command bytes sent:</source>
-        <translation>Octets de commande envoyés&#xa0;:</translation>
+        <translation>Octets envoyés&#xa0;:</translation>
     </message>
     <message>
         <source>Hexadecimal</source>
