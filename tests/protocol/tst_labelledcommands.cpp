@@ -302,13 +302,13 @@ void tst_LabelledCommands::serialLaunch_data()
     QTest::addColumn<QByteArray>("body");
 
     const PlaybackChoice choice{.reference = 300, .option = 2, .webradio = 7};
-    const auto reference = [](int number) {
+    const auto withReference = [](int number) {
         return PlaybackChoice{.reference = number, .option = 2, .webradio = 7};
     };
-    const auto option = [](int number) {
+    const auto withOption = [](int number) {
         return PlaybackChoice{.reference = 300, .option = number, .webradio = 7};
     };
-    const auto webradio = [](int number) {
+    const auto withWebradio = [](int number) {
         return PlaybackChoice{.reference = 300, .option = 2, .webradio = number};
     };
 
@@ -318,14 +318,14 @@ void tst_LabelledCommands::serialLaunch_data()
         << 23U << "0A 0B 0C 0D 0E"_ba << choice << "01 2C 0C 0D 0E"_ba;
     QTest::newRow("folder, one byte") << 23U << "0A"_ba << choice << "0A"_ba;
     QTest::newRow("folder, no byte") << 23U << ""_ba << choice << ""_ba;
-    QTest::newRow("folder 0") << 23U << "00 01 FF"_ba << reference(0) << "00 00 FF"_ba;
-    QTest::newRow("folder 1") << 23U << "00 01 FF"_ba << reference(1) << "00 01 FF"_ba;
-    QTest::newRow("folder 255") << 23U << "00 01 FF"_ba << reference(255) << "00 FF FF"_ba;
-    QTest::newRow("folder 256") << 23U << "00 01 FF"_ba << reference(256) << "01 00 FF"_ba;
-    QTest::newRow("folder 999") << 23U << "00 01 FF"_ba << reference(999) << "03 E7 FF"_ba;
-    QTest::newRow("folder 65535") << 23U << "00 01 FF"_ba << reference(65535) << "FF FF FF"_ba;
+    QTest::newRow("folder 0") << 23U << "00 01 FF"_ba << withReference(0) << "00 00 FF"_ba;
+    QTest::newRow("folder 1") << 23U << "00 01 FF"_ba << withReference(1) << "00 01 FF"_ba;
+    QTest::newRow("folder 255") << 23U << "00 01 FF"_ba << withReference(255) << "00 FF FF"_ba;
+    QTest::newRow("folder 256") << 23U << "00 01 FF"_ba << withReference(256) << "01 00 FF"_ba;
+    QTest::newRow("folder 999") << 23U << "00 01 FF"_ba << withReference(999) << "03 E7 FF"_ba;
+    QTest::newRow("folder 65535") << 23U << "00 01 FF"_ba << withReference(65535) << "FF FF FF"_ba;
     QTest::newRow("folder 65537: low 16 bits")
-        << 23U << "00 01 FF"_ba << reference(65537) << "00 01 FF"_ba;
+        << 23U << "00 01 FF"_ba << withReference(65537) << "00 01 FF"_ba;
 
     QTest::newRow("SPOT reset") << 24U << "00 01 01"_ba << choice << "01 2C 02"_ba;
     QTest::newRow("SPOT reset, four bytes")
@@ -333,20 +333,21 @@ void tst_LabelledCommands::serialLaunch_data()
     QTest::newRow("SPOT reset, two bytes") << 24U << "0A 0B"_ba << choice << "0A 0B"_ba;
     QTest::newRow("SPOT reset, one byte") << 24U << "0A"_ba << choice << "0A"_ba;
     QTest::newRow("SPOT reset, no byte") << 24U << ""_ba << choice << ""_ba;
-    QTest::newRow("SPOT reset 1") << 24U << "00 01 01"_ba << reference(1) << "00 01 02"_ba;
-    QTest::newRow("SPOT reset 255") << 24U << "00 01 01"_ba << reference(255) << "00 FF 02"_ba;
-    QTest::newRow("SPOT reset 256") << 24U << "00 01 01"_ba << reference(256) << "01 00 02"_ba;
-    QTest::newRow("SPOT reset 999") << 24U << "00 01 01"_ba << reference(999) << "03 E7 02"_ba;
-    QTest::newRow("SPOT reset, option 0") << 24U << "00 01 01"_ba << option(0) << "01 2C 00"_ba;
-    QTest::newRow("SPOT reset, option 255") << 24U << "00 01 01"_ba << option(255) << "01 2C FF"_ba;
+    QTest::newRow("SPOT reset 1") << 24U << "00 01 01"_ba << withReference(1) << "00 01 02"_ba;
+    QTest::newRow("SPOT reset 255") << 24U << "00 01 01"_ba << withReference(255) << "00 FF 02"_ba;
+    QTest::newRow("SPOT reset 256") << 24U << "00 01 01"_ba << withReference(256) << "01 00 02"_ba;
+    QTest::newRow("SPOT reset 999") << 24U << "00 01 01"_ba << withReference(999) << "03 E7 02"_ba;
+    QTest::newRow("SPOT reset, option 0") << 24U << "00 01 01"_ba << withOption(0) << "01 2C 00"_ba;
+    QTest::newRow("SPOT reset, option 255")
+        << 24U << "00 01 01"_ba << withOption(255) << "01 2C FF"_ba;
 
     QTest::newRow("web radio") << 25U << "00 01 FF"_ba << choice << "00 07 FF"_ba;
     QTest::newRow("web radio, two bytes") << 25U << "00 01"_ba << choice << "00 07"_ba;
     QTest::newRow("web radio, four bytes") << 25U << "0A 0B 0C 0D"_ba << choice << "00 07 0C 0D"_ba;
     QTest::newRow("web radio, one byte") << 25U << "0A"_ba << choice << "0A"_ba;
     QTest::newRow("web radio, no byte") << 25U << ""_ba << choice << ""_ba;
-    QTest::newRow("web radio 10") << 25U << "00 01 FF"_ba << webradio(10) << "00 0A FF"_ba;
-    QTest::newRow("web radio 300") << 25U << "00 01 FF"_ba << webradio(300) << "01 2C FF"_ba;
+    QTest::newRow("web radio 10") << 25U << "00 01 FF"_ba << withWebradio(10) << "00 0A FF"_ba;
+    QTest::newRow("web radio 300") << 25U << "00 01 FF"_ba << withWebradio(300) << "01 2C FF"_ba;
 
     QTest::newRow("alternate") << 26U << "FF FF FF"_ba << choice << "FF FF FF"_ba;
     QTest::newRow("alternate, one byte") << 26U << "0A"_ba << choice << "0A"_ba;
@@ -385,7 +386,7 @@ void tst_LabelledCommands::networkLaunch_data()
     QTest::addColumn<QByteArray>("body");
 
     const PlaybackChoice choice{.reference = 12, .option = 2, .webradio = 7};
-    const auto reference = [](int number) {
+    const auto withReference = [](int number) {
         return PlaybackChoice{.reference = number, .option = 2, .webradio = 7};
     };
     const QByteArray first = "00 01 36 34"_ba;
@@ -393,15 +394,15 @@ void tst_LabelledCommands::networkLaunch_data()
     const QByteArray head = "00 00 00 63 6D 64 00 36 34 00 "_ba;
 
     QTest::newRow("folder") << 23U << first << last << choice << head + "31 32 00 30 00";
-    QTest::newRow("folder 0") << 23U << first << last << reference(0) << head + "30 00 30 00";
-    QTest::newRow("folder 1") << 23U << first << last << reference(1) << head + "31 00 30 00";
-    QTest::newRow("folder 255") << 23U << first << last << reference(255)
+    QTest::newRow("folder 0") << 23U << first << last << withReference(0) << head + "30 00 30 00";
+    QTest::newRow("folder 1") << 23U << first << last << withReference(1) << head + "31 00 30 00";
+    QTest::newRow("folder 255") << 23U << first << last << withReference(255)
                                 << head + "32 35 35 00 30 00";
-    QTest::newRow("folder 256") << 23U << first << last << reference(256)
+    QTest::newRow("folder 256") << 23U << first << last << withReference(256)
                                 << head + "32 35 36 00 30 00";
-    QTest::newRow("folder 300") << 23U << first << last << reference(300)
+    QTest::newRow("folder 300") << 23U << first << last << withReference(300)
                                 << head + "33 30 30 00 30 00";
-    QTest::newRow("folder 999") << 23U << first << last << reference(999)
+    QTest::newRow("folder 999") << 23U << first << last << withReference(999)
                                 << head + "39 39 39 00 30 00";
     QTest::newRow("SPOT reset: empty first argument, no option")
         << 24U << first << last << choice << head + "00 30 00";
