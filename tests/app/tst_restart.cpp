@@ -95,6 +95,41 @@ QByteArray editedFile(const QByteArray &port, const QByteArray &playerId)
              "2\n";
 }
 
+QByteArray typedFile(const QByteArray &port, const QByteArray &language)
+{
+    return "TSY11.00\n"
+           "Tessaly (Configuration File)\n"
+           "Generate by: Tessaly 1.2.8.0\n"
+           "*** Default Language:\n"
+           + language
+           + "\n"
+             "*** Default Device:\n"
+             "Vistar Home - HV4xx (Serial)\n"
+             "*** Default Serial Port:\n"
+           + port
+           + "\n"
+             "*** Default Baudrate:\n"
+             "9600\n"
+             "*** Default IP Address:\n"
+             "192\n"
+             "168\n"
+             "7\n"
+             "255\n"
+             "*** Default Auto-connection:\n"
+             "0\n"
+             "*** Default Player ID:\n"
+             "0\n"
+             "*** Default Command Bytes Sent Setting:\n"
+             "2\n"
+             "*** Default Data Received Setting:\n"
+             "1\n";
+}
+
+QStringList times(int count, const QString &key)
+{
+    return QStringList(count, key);
+}
+
 } // namespace
 
 /// Starts the real program on a display of its own and ends it by its own shortcut: a program that
@@ -110,6 +145,9 @@ private slots:
     void cleanupTestCase();
 
     void twoStarts();
+    void typedSettings();
+    void fileMenu_data();
+    void fileMenu();
     void untouchedTwice();
     void fileOfAnotherProgram();
 
@@ -120,7 +158,7 @@ private:
     bool focusWindow();
     bool runTool(const QStringList &arguments, QByteArray *output = nullptr);
     void startProgram();
-    void endProgram();
+    void endProgram(const QStringList &keys = {u"ctrl+q"_s});
 
     QProcess m_display;
     QProcess m_program;
@@ -220,9 +258,9 @@ void tst_restart::startProgram()
     QVERIFY2(m_program.waitForStarted(patience), qPrintable(m_program.errorString()));
 }
 
-void tst_restart::endProgram()
+void tst_restart::endProgram(const QStringList &keys)
 {
-    QVERIFY(typeKeys({u"ctrl+q"_s}));
+    QVERIFY(typeKeys(keys));
     QTRY_COMPARE_WITH_TIMEOUT(m_program.state(), QProcess::NotRunning, patience);
     QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(m_program.exitCode(), 0);
@@ -259,6 +297,79 @@ void tst_restart::twoStarts()
         return;
     endProgram();
     QCOMPARE(linesOf(read(path())), linesOf(editedFile(port, "0")));
+}
+
+void tst_restart::typedSettings()
+{
+    const QByteArray port = m_peer->portName().toLatin1();
+
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    // The list of models has the focus first. The address can be typed for a TCP model only, port
+    // and speed for a serial one only. A lost key shows in the file.
+    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(9, u"Down"_s) + QStringList{u"Tab"_s}
+                     + QStringList{u"1"_s, u"9"_s, u"2"_s, u"Tab"_s}
+                     + QStringList{u"1"_s, u"6"_s, u"8"_s, u"Tab"_s} + QStringList{u"7"_s, u"Tab"_s}
+                     + QStringList{u"2"_s, u"5"_s, u"5"_s} + times(4, u"shift+Tab"_s)));
+    // TESSALY_EXTRA_PORTS comes last in the list of ports.
+    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(8, u"Down"_s)
+                     + QStringList{u"Tab"_s, u"End"_s, u"Tab"_s, u"Home"_s} + times(3, u"Down"_s)));
+    // From the top of the menu, Up goes round to its last entry.
+    QVERIFY(typeKeys({u"alt+l"_s, u"Up"_s, u"Return"_s}));
+    QVERIFY(!QFile::exists(path()));
+    endProgram();
+    if (QTest::currentTestFailed())
+        return;
+    QCOMPARE(linesOf(read(path())), linesOf(typedFile(port, "French")));
+
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    // The window has come up in French: "Fichier", "Quitter".
+    endProgram({u"alt+f"_s, u"q"_s});
+    if (QTest::currentTestFailed())
+        return;
+    QCOMPARE(linesOf(read(path())), linesOf(typedFile(port, "French")));
+}
+
+void tst_restart::fileMenu_data()
+{
+    QTest::addColumn<QByteArray>("language");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("ends");
+
+    // The rows that end show that Alt+F does open the menu of the rows that do not.
+    QTest::newRow("French: Q of Quitter") << "French"_ba << u"q"_s << true;
+    QTest::newRow("French: no Exit") << "French"_ba << u"e"_s << false;
+    QTest::newRow("English: E of Exit") << "English"_ba << u"e"_s << true;
+    QTest::newRow("English: no Quitter") << "English"_ba << u"q"_s << false;
+}
+
+void tst_restart::fileMenu()
+{
+    QFETCH(const QByteArray, language);
+    QFETCH(const QString, key);
+    QFETCH(const bool, ends);
+
+    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
+    QVERIFY(write(path(), typedFile(m_peer->portName().toLatin1(), language)));
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    if (ends) {
+        endProgram({u"alt+f"_s, key});
+        return;
+    }
+
+    // One Escape for the menu, one for its bar. The next model in the file then shows that the
+    // program lived on behind the key.
+    QVERIFY(typeKeys({u"alt+f"_s, key, u"Escape"_s, u"Escape"_s, u"Down"_s}));
+    endProgram();
+    if (QTest::currentTestFailed())
+        return;
+    QCOMPARE(linesOf(read(path())).value(4), language);
+    QCOMPARE(linesOf(read(path())).value(6), "Vistar Home - HV4xx (TCP/IP)"_ba);
 }
 
 void tst_restart::untouchedTwice()
