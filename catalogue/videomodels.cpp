@@ -74,25 +74,25 @@ constexpr CommandRow sharedVideoCommands[] = {
 };
 
 constexpr CommandRow hv1xxCommands[] = {
-    // label                   id                        code  data   dataMax
-    { "Folder",                CommandId::Folder,           1, "00",  "7F" },
-    { "Play",                  CommandId::Play,             2, "01" },
-    { "Stop",                  CommandId::Stop,             2, "02" },
-    { "Next File",             CommandId::NextFile,         2, "03" },
-    { "Previous File",         CommandId::PreviousFile,     2, "04" },
-    { "Pause",                 CommandId::Pause,            2, "05" },
-    { "Next Folder",           CommandId::NextFolder,       2, "06" },
-    { "Previous Folder",       CommandId::PreviousFolder,   2, "07" },
-    { "Volume",                CommandId::Volume,           3, "00",  "1F" },
-    { "Player Status",         CommandId::Request,          4, "01" },
-    { "Current file",          CommandId::Request,          4, "02" },
-    { "Full path name",        CommandId::Request,          4, "03" },
-    { "Used storage media",    CommandId::Request,          4, "04" },
-    { "Current folder number", CommandId::Request,          4, "06" },
-    { "Remaining time",        CommandId::Request,          4, "09" },
+    // label                    id                       code  data   dataMax
+    { "Folder",                 CommandId::Folder,          1, "00",  "7F" },
+    { "Play",                   CommandId::Play,            2, "01" },
+    { "Stop",                   CommandId::Stop,            2, "02" },
+    { "Next File",              CommandId::NextFile,        2, "03" },
+    { "Previous File",          CommandId::PreviousFile,    2, "04" },
+    { "Pause",                  CommandId::Pause,           2, "05" },
+    { "Next Folder",            CommandId::NextFolder,      2, "06" },
+    { "Previous Folder",        CommandId::PreviousFolder,  2, "07" },
+    { "Volume",                 CommandId::Volume,          3, "00",  "1F" },
+    { "Player Status",          CommandId::Request,         4, "01" },
+    { "Current file",           CommandId::Request,         4, "02" },
+    { "Full path name",         CommandId::Request,         4, "03" },
+    { "Used storage media",     CommandId::Request,         4, "04" },
+    { "Current folder number",  CommandId::Request,         4, "06" },
+    { "Remaining time",         CommandId::Request,         4, "09" },
     { "Total time of the file", CommandId::Request,         4, "0A" },
-    { "Volume",                CommandId::Request,          4, "0B" },
-    { "Change ID",             CommandId::ChangeId,       127, "01",  "7F" },
+    { "Volume",                 CommandId::Request,         4, "0B" },
+    { "Change ID",              CommandId::ChangeId,      127, "01",  "7F" },
 };
 
 constexpr CommandRow hv0xxCommands[] = {
