@@ -137,6 +137,11 @@ void MainWindow::createShortcuts()
     }
 }
 
+std::array<QSpinBox *, 4> MainWindow::addressBoxes() const
+{
+    return {m_ui->spinBox_IP_1, m_ui->spinBox_IP_2, m_ui->spinBox_IP_3, m_ui->spinBox_IP_4};
+}
+
 const DeviceModel &MainWindow::selectedModel() const
 {
     static const DeviceModel none;

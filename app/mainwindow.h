@@ -6,10 +6,12 @@
 #include <QAbstractSocket>
 #include <QMainWindow>
 
+#include <array>
 #include <chrono>
 
 struct CommandEntry;
 struct DeviceModel;
+class QSpinBox;
 class Ui_MainWindow;
 
 /// The console's only window. It holds every slot and hands the widgets' values to the functions
@@ -161,6 +163,8 @@ private:
 
     /// The model at the current row of the model list; one without commands when there is none.
     const DeviceModel &selectedModel() const;
+    /// The four boxes of the IP address, first number first.
+    std::array<QSpinBox *, 4> addressBoxes() const;
     bool anyLinkIsOpen() const;
     void sendFixedCommand(quint32 commandId);
     void sendUnlessEmpty(quint8 code, const QByteArray &body);

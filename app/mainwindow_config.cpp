@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -53,8 +55,9 @@ void MainWindow::saveConfig(QString path)
     settings.model = m_ui->comboBox_Player->currentText();
     settings.port = m_ui->comboBox_Port->currentText();
     settings.baudRate = m_ui->comboBox_Baudrate->currentText();
-    settings.address = {m_ui->spinBox_IP_1->value(), m_ui->spinBox_IP_2->value(),
-                        m_ui->spinBox_IP_3->value(), m_ui->spinBox_IP_4->value()};
+    const auto boxes = addressBoxes();
+    std::transform(boxes.begin(), boxes.end(), settings.address.begin(),
+                   [](const QSpinBox *box) { return box->value(); });
     settings.autoConnection = m_ui->checkBox_Auto_connection->isChecked();
     settings.playerId = m_ui->comboBox_ID->currentText();
     if (m_ui->radioButton_Sent_Dec->isChecked())
@@ -107,8 +110,7 @@ void MainWindow::loadConfig(QString path)
     selectText(m_ui->comboBox_Baudrate, labelledLine());
 
     stream.readLine(); // label of the four address lines
-    for (QSpinBox *box :
-         {m_ui->spinBox_IP_1, m_ui->spinBox_IP_2, m_ui->spinBox_IP_3, m_ui->spinBox_IP_4}) {
+    for (QSpinBox *box : addressBoxes()) {
         if (const auto part = addressPartFromLine(stream.readLine()))
             box->setValue(*part);
     }

@@ -70,10 +70,8 @@ bool MainWindow::openTcpLink()
         return false;
 
     QStringList numbers;
-    for (const QSpinBox *box :
-         {m_ui->spinBox_IP_1, m_ui->spinBox_IP_2, m_ui->spinBox_IP_3, m_ui->spinBox_IP_4}) {
+    for (const QSpinBox *box : addressBoxes())
         numbers.append(QString::number(box->value()));
-    }
     connectTcpSocket(numbers.join(u'.'), model.tcpPort);
     return true;
 }
