@@ -13,9 +13,6 @@ namespace {
 constexpr quint8 setMessageCode = 3;
 constexpr quint8 textCommandCode = 4;
 
-/// The volume's text form counts from this value downwards: 64 is sent as 0, 0 as -64.
-constexpr int loudestTextVolume = 64;
-
 } // namespace
 
 bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QByteArray &body)
@@ -52,7 +49,7 @@ bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &co
         } else if (body.size() >= 2) {
             body.clear();
             if (entry.code == setMessageCode) {
-                body += textMessage("set"_ba, "VolumeLocalMusic"_ba);
+                body += textMessage("set"_ba, volumeTextName);
                 body += QByteArray::number(volumeByte - loudestTextVolume) + '\0';
             }
         }

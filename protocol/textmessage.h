@@ -13,6 +13,11 @@
 //
 // All parts are ASCII; the verb is "cmd", "get" or "set".
 
+/// Name of the volume in a "set" message. Its argument is the volume less `loudestTextVolume`: 64
+/// is sent as 0, 0 as -64.
+inline constexpr char volumeTextName[] = "VolumeLocalMusic";
+inline constexpr int loudestTextVolume = 64;
+
 /// The message up to the zero behind the name; arguments follow it.
 QByteArray textMessage(const QByteArray &verb, const QByteArray &name);
 

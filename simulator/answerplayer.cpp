@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "simulator/answerplayer.h"
+
+#include "simulator/deviceconnection.h"
+
+namespace {
+
+constexpr qsizetype mostQueuedBytes = 4 * 1'048'576;
+
+} // namespace
+
+AnswerPlayer::AnswerPlayer(DeviceConnection *connection)
+    : QObject(connection)
+    , m_connection(connection)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &AnswerPlayer::playNext);
+}
+
+void AnswerPlayer::play(const QList<AnswerStep> &steps)
+{
+    qsizetype size = 0;
+    for (const AnswerStep &step : steps)
+        size += step.bytes.size();
+    if (m_queuedBytes + size > mostQueuedBytes)
+        return;
+    m_queuedBytes += size;
+    m_steps += steps;
+    if (!m_timer.isActive() && !m_steps.isEmpty())
+        m_timer.start(m_steps.front().pause);
+}
+
+void AnswerPlayer::playNext()
+{
+    const AnswerStep step = m_steps.takeFirst();
+    m_queuedBytes -= step.bytes.size();
+    m_connection->send(step.bytes);
+    if (step.hangsUp) {
+        m_steps.clear();
+        m_queuedBytes = 0;
+        m_connection->hangUp();
+    }
+    if (!m_steps.isEmpty())
+        m_timer.start(m_steps.front().pause);
+}

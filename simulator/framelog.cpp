@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "simulator/framelog.h"
+
+#include <cstdio>
+
+FrameLog::FrameLog()
+{
+    static_cast<void>(m_output.open(stdout, QIODevice::WriteOnly));
+}
+
+bool FrameLog::openFile(const QString &path)
+{
+    m_file.setFileName(path);
+    return m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text);
+}
+
+void FrameLog::write(const QString &line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    for (QFile *file : {&m_output, &m_file}) {
+        if (!file->isOpen())
+            continue;
+        file->write(bytes);
+        file->flush();
+    }
+}

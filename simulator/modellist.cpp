@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "simulator/modellist.h"
+
+#include "simulator/commandreader.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype lineWidth = 100;
+const QString indent = u"    "_s;
+
+QString rangeText(NumberRange range)
+{
+    return range.first == range.last ? QString::number(range.first)
+                                     : u"%1 to %2"_s.arg(range.first).arg(range.last);
+}
+
+QString commandText(const DeviceModel &model, const CommandEntry &entry)
+{
+    switch (entry.commandId) {
+    case CommandId::Folder:
+    case CommandId::Volume:
+    case CommandId::ChangeId:
+    case CommandId::SubtitlesByIndex:
+    case CommandId::SourceFolder:
+    case CommandId::SourceWebradio:
+        return u"%1 (%2)"_s.arg(entry.label, rangeText(valueRange(model, entry)));
+    case CommandId::SourceSpotReset:
+        return u"%1 (%2, option %3)"_s.arg(entry.label, rangeText(valueRange(model, entry)),
+                                           rangeText(byteRange(entry, 2)));
+    case CommandId::Request:
+        return "Request: "_L1 + entry.label;
+    default:
+        return entry.label;
+    }
+}
+
+QString linkText(const Endpoint &endpoint)
+{
+    if (endpoint.model.transport == TransportKind::TcpIp) {
+        const QString port = endpoint.port == 0 ? u"any"_s : QString::number(endpoint.port);
+        return u"TCP/IP, port %1, simulated at %2"_s.arg(port, endpoint.address.toString());
+    }
+    QStringList rates;
+    for (const qint32 rate : endpoint.model.baudRates)
+        rates.append(QString::number(rate));
+    return u"serial, %1 baud"_s.arg(rates.join(u", "_s));
+}
+
+/// The texts behind each other, separated by commas, on indented lines.
+QString wrapped(const QStringList &texts)
+{
+    QString lines;
+    QString line = indent;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const QString item = texts.at(i) + (i + 1 < texts.size() ? u","_s : QString());
+        if (line.size() + 1 + item.size() > lineWidth && line != indent) {
+            lines += line + u'\n';
+            line = indent;
+        }
+        line += (line == indent ? u""_s : u" "_s) + item;
+    }
+    return lines + line + u'\n';
+}
+
+} // namespace
+
+QString modelListText(const QList<Endpoint> &endpoints)
+{
+    QString text;
+    for (const Endpoint &endpoint : endpoints) {
+        const DeviceModel &model = endpoint.model;
+        QStringList commands;
+        for (const CommandEntry &entry : model.commands)
+            commands.append(commandText(model, entry));
+        text += model.name + u'\n' + indent + linkText(endpoint);
+        if (model.protocol == ProtocolKind::Classic)
+            text += ", player ID "_L1 + rangeText({model.minPlayerId, model.maxPlayerId});
+        text += u'\n' + wrapped(commands);
+    }
+    return text;
+}

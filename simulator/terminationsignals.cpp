@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "simulator/terminationsignals.h"
+
+#include <array>
+#include <csignal>
+
+#include <unistd.h>
+
+namespace {
+
+// A signal handler may do little more than write to a pipe: {read end, write end}.
+std::array<int, 2> pipeEnds{-1, -1};
+
+extern "C" void writeToPipe(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t count = ::write(pipeEnds[1], &byte, 1);
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals()
+{
+    if (::pipe(pipeEnds.data()) != 0)
+        return; // the signals end the program without ado, as they do by default
+    m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+        m_notifier->setEnabled(false);
+        emit raised();
+    });
+    std::signal(SIGINT, writeToPipe);
+    std::signal(SIGTERM, writeToPipe);
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    std::signal(SIGINT, SIG_DFL);
+    std::signal(SIGTERM, SIG_DFL);
+    m_notifier.reset();
+    for (int &end : pipeEnds) {
+        ::close(end);
+        end = -1;
+    }
+}

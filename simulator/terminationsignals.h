@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <memory>
+
+/// Turns SIGINT and SIGTERM into a Qt signal. One object at a time.
+class TerminationSignals : public QObject
+{
+    Q_OBJECT
+
+public:
+    TerminationSignals();
+    ~TerminationSignals() override;
+
+signals:
+    void raised();
+
+private:
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
