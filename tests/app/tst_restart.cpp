@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/ptypeer.h"
+#include "tests/support/virtualscreen.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -142,7 +143,6 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void cleanupTestCase();
 
     void twoStarts();
     void typedSettings();
@@ -160,7 +160,7 @@ private:
     void startProgram();
     void endProgram(const QStringList &keys = {u"ctrl+q"_s});
 
-    QProcess m_display;
+    VirtualScreen m_screen;
     QProcess m_program;
     QProcessEnvironment m_environment;
     std::unique_ptr<QTemporaryDir> m_home;
@@ -174,16 +174,10 @@ QString tst_restart::path() const
 
 void tst_restart::initTestCase()
 {
-    m_display.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    // The server picks a free display and tells its number on its standard output. Without
-    // -noreset it would begin anew, and lose the program, when the last xdotool has gone.
-    m_display.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1024x1000x24"_s,
-                                u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
-    QVERIFY2(m_display.waitForStarted(patience), qPrintable(m_display.errorString()));
-    QTRY_VERIFY_WITH_TIMEOUT(m_display.canReadLine(), patience);
+    QVERIFY(m_screen.start());
 
     m_environment = QProcessEnvironment::systemEnvironment();
-    m_environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(m_display.readLine().trimmed()));
+    m_environment.insert(u"DISPLAY"_s, QString::fromLatin1(m_screen.displayName()));
     m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
     m_environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     m_environment.remove(u"LANGUAGE"_s);
@@ -206,13 +200,6 @@ void tst_restart::cleanup()
         m_program.kill();
         m_program.waitForFinished(patience);
     }
-}
-
-void tst_restart::cleanupTestCase()
-{
-    m_display.terminate();
-    if (!m_display.waitForFinished(patience))
-        m_display.kill();
 }
 
 bool tst_restart::runTool(const QStringList &arguments, QByteArray *output)

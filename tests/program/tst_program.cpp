@@ -1,19 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/program/consoleprogram.h"
-#include "tests/program/virtualscreen.h"
+#include "tests/support/consoleprogram.h"
+#include "tests/support/programtestmain.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
-#include "tests/support/testmain.h"
 
-#include <QApplication>
 #include <QHostAddress>
 #include <QLabel>
 #include <QMessageBox>
-#include <QStandardPaths>
-
-#include <cstdio>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -210,32 +205,5 @@ void tst_Program::closeByWindowManager()
     QVERIFY(program.endsWell());
 }
 
-int main(int argc, char *argv[])
-{
-    prepareTestEnvironment();
-    VirtualScreen screen;
-    if (!screen.start()) {
-        std::fputs("FAIL!  : no X server: Xvfb is missing or did not start (scripts/setup "
-                   "installs it)\n",
-                   stderr);
-        return 1;
-    }
-    if (QStandardPaths::findExecutable(u"xdotool"_s).isEmpty()) {
-        std::fputs("FAIL!  : xdotool is missing (scripts/setup installs it)\n", stderr);
-        return 1;
-    }
-    qputenv("DISPLAY", screen.displayName());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    // No part of the user's desktop session may reach the program: input method, menu bar, dialogs.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    for (const char *name : {"SESSION_MANAGER", "QT_IM_MODULE", "XMODIFIERS", "XAUTHORITY",
-                             "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY"}) {
-        qunsetenv(name);
-    }
-
-    const QApplication application(argc, argv);
-    tst_Program test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+TESSALY_PROGRAM_TEST_MAIN(tst_Program)
 #include "tst_program.moc"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/program/virtualscreen.h"
+#include "tests/support/virtualscreen.h"
 
 #include <array>
 
@@ -11,6 +11,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -35,6 +36,8 @@ QByteArray readLine(int handle)
 
 VirtualScreen::~VirtualScreen()
 {
+    if (m_connection)
+        ::xcb_disconnect(m_connection);
     if (m_process <= 0)
         return;
     ::kill(m_process, SIGTERM);
@@ -67,5 +70,6 @@ bool VirtualScreen::start()
     if (!line.endsWith('\n'))
         return false;
     m_displayName = ':' + line.trimmed();
-    return true;
+    m_connection = ::xcb_connect(m_displayName.constData(), nullptr);
+    return ::xcb_connection_has_error(m_connection) == 0;
 }

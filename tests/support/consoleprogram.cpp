@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/program/consoleprogram.h"
+#include "tests/support/consoleprogram.h"
 
 #include "tests/support/testmain.h"
 
@@ -309,7 +309,8 @@ QString ConsoleProgram::title()
 
 bool ConsoleProgram::saveScreenshot(const QString &name, const QString &windowTitle) const
 {
-    const QDir folder(QStringLiteral(TESSALY_SCREENSHOTS));
+    const QString test = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    const QDir folder(QStringLiteral(TESSALY_SCREENSHOTS) + u'/' + test);
     return folder.mkpath(u"."_s)
            && screenshot(geometry(windowTitle)).save(folder.filePath(name + ".png"_L1));
 }

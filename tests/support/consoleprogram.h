@@ -66,7 +66,7 @@ public:
     bool requestClose(const QString &title) const;
 
     static QString title();
-    /// Writes what a window shows, as a picture of that name.
+    /// Writes what a window shows, as a picture of that name in the build's "screenshots/<test>".
     bool saveScreenshot(const QString &name, const QString &windowTitle = title()) const;
 
 private:

@@ -7,6 +7,8 @@
 
 #include <sys/types.h>
 
+struct xcb_connection_t;
+
 /// An X server without a screen, at a display number of its own, for as long as the object lives.
 /// It needs no application object, so that the test's own one can be created on it. When the test
 /// is killed, it ends together with its last client.
@@ -27,4 +29,5 @@ public:
 private:
     pid_t m_process = -1;
     QByteArray m_displayName;
+    xcb_connection_t *m_connection = nullptr; ///< the server stays as long as it has a client
 };

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tests/support/virtualscreen.h"
+
+#include <QApplication>
+#include <QTest>
+
+/// Starts the screen and lets this process and its programs use it, without any part of the user's
+/// desktop session. To be called before the application object is created.
+/// \return false, having said why, when a tool is missing
+bool prepareProgramTest(VirtualScreen &screen);
+
+// main() of a test that drives the built console.
+#define TESSALY_PROGRAM_TEST_MAIN(TestClass) \
+    int main(int argc, char *argv[]) \
+    { \
+        VirtualScreen screen; \
+        if (!prepareProgramTest(screen)) \
+            return 1; \
+        const QApplication application(argc, argv); \
+        TestClass test; \
+        return QTest::qExec(&test, argc, argv); \
+    }

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/simulatorprogram.h"
+
+#include <QTest>
+
+#include <signal.h>
+#include <sys/prctl.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int timeLimit = 20'000; // in ms; reached only by what fails
+
+} // namespace
+
+SimulatorProgram::SimulatorProgram()
+{
+    m_process.setProgram(QStringLiteral(TESSALY_SIMULATOR));
+    // A test that is killed takes the program with it.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
+SimulatorProgram::~SimulatorProgram()
+{
+    if (isRunning() && !stop())
+        m_process.kill();
+    m_process.waitForFinished();
+}
+
+bool SimulatorProgram::start(const QStringList &arguments)
+{
+    m_process.setArguments(arguments);
+    m_process.start();
+    const bool isReady = QTest::qWaitFor(
+        [this] {
+            readLines();
+            return !isRunning() || (!m_lines.isEmpty() && m_lines.last().startsWith("Ready"_L1));
+        },
+        timeLimit);
+    return isReady && isRunning();
+}
+
+bool SimulatorProgram::runToEnd(const QStringList &arguments)
+{
+    m_process.start(QStringLiteral(TESSALY_SIMULATOR), arguments);
+    const bool isDone = m_process.waitForFinished(timeLimit);
+    m_output = m_process.readAllStandardOutput();
+    return isDone && m_process.exitStatus() == QProcess::NormalExit;
+}
+
+bool SimulatorProgram::stop(int signal)
+{
+    ::kill(static_cast<pid_t>(m_process.processId()), signal);
+    const bool isDone
+        = isRunning() ? m_process.waitForFinished(timeLimit) : m_process.processId() == 0;
+    readLines();
+    return isDone && m_process.exitStatus() == QProcess::NormalExit;
+}
+
+QString SimulatorProgram::endpoint(const QString &model)
+{
+    readLines();
+    QString place;
+    for (const QString &line : std::as_const(m_lines)) {
+        if (line.startsWith(model + ": "_L1))
+            place = line.sliced(model.size() + 2).section(" (/dev"_L1, 0, 0);
+    }
+    return place;
+}
+
+QStringList SimulatorProgram::frames()
+{
+    readLines();
+    QStringList frames;
+    for (const QString &line : m_lines.sliced(m_firstFrame)) {
+        if (line.contains(" | "_L1))
+            frames.append(line.section(" | "_L1, 1));
+    }
+    return frames;
+}
+
+void SimulatorProgram::forgetFrames()
+{
+    readLines();
+    m_firstFrame = m_lines.size();
+}
+
+void SimulatorProgram::readLines()
+{
+    while (m_process.canReadLine())
+        m_lines.append(QString::fromUtf8(m_process.readLine()).chopped(1));
+}

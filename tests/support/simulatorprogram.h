@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QProcess>
+#include <QStringList>
+
+/// The built simulator, and what it has said.
+class SimulatorProgram
+{
+public:
+    SimulatorProgram();
+    /// Ends the simulator if it still runs.
+    ~SimulatorProgram();
+    Q_DISABLE_COPY_MOVE(SimulatorProgram)
+
+    /// Returns when the devices are there.
+    /// \return false when it ends before, or says nothing for 20 seconds
+    bool start(const QStringList &arguments);
+    /// Like start(), for a run that ends by itself.
+    bool runToEnd(const QStringList &arguments);
+    /// Sends SIGTERM, or another signal.
+    /// \return whether it has ended normally; exitCode() says how
+    bool stop(int signal = 15);
+
+    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    int exitCode() const { return m_process.exitCode(); }
+    qint64 processId() const { return m_process.processId(); }
+    QByteArray errorOutput() { return m_process.readAllStandardError(); }
+    QByteArray output() const { return m_output; } ///< of runToEnd()
+
+    /// Where a model is: "/dev/pts/5" or the link to it, "127.0.0.1 port 1234". The last word on
+    /// it counts.
+    QString endpoint(const QString &model);
+
+    /// What was said about frames: "Tempo Deck | ID 0 | 80 02 01 | Play", without the time.
+    QStringList frames();
+    void forgetFrames();
+
+private:
+    void readLines();
+
+    QProcess m_process;
+    QByteArray m_output;
+    QStringList m_lines;
+    qsizetype m_firstFrame = 0;
+};
