@@ -220,6 +220,20 @@ bool ConsoleProgram::choose(const char *comboBox, const QString &text)
     return choose(comboBox, QStringList{u"Home"_s} + QStringList(row, u"Down"_s), row);
 }
 
+bool ConsoleProgram::typeAddress(const QString &address)
+{
+    const QStringList numbers = address.split(u'.');
+    for (int i = 0; i < numbers.size(); ++i) {
+        QStringList keys{u"ctrl+a"_s};
+        for (const QChar digit : numbers.at(i))
+            keys.append(digit);
+        const QByteArray box = "spinBox_IP_" + QByteArray::number(i + 1);
+        if (!click(box.constData()) || !press(keys + QStringList{u"Tab"_s}))
+            return false;
+    }
+    return true;
+}
+
 bool ConsoleProgram::copies(const QString &text) const
 {
     QString copied;

@@ -56,6 +56,8 @@ public:
     bool choose(const char *comboBox, const QStringList &keys, int expectedRow);
     /// Opens a list with the mouse and goes from its top to the row of that text.
     bool choose(const char *comboBox, const QString &text);
+    /// Types an IPv4 address into its four boxes, which the model has to show.
+    bool typeAddress(const QString &address);
     /// Waits until "select all" and "copy" in the widget clicked last give that text.
     bool copies(const QString &text) const;
 

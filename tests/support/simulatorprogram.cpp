@@ -71,6 +71,17 @@ QString SimulatorProgram::endpoint(const QString &model)
     return place;
 }
 
+QStringList SimulatorProgram::serialPorts()
+{
+    readLines();
+    QStringList ports;
+    for (const QString &line : std::as_const(m_lines)) {
+        if (line.contains("/dev/pts/"_L1))
+            ports.append(line.section(": "_L1, 1).section(" (/dev"_L1, 0, 0));
+    }
+    return ports;
+}
+
 QStringList SimulatorProgram::frames()
 {
     readLines();

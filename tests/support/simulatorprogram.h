@@ -33,6 +33,8 @@ public:
     /// Where a model is: "/dev/pts/5" or the link to it, "127.0.0.1 port 1234". The last word on
     /// it counts.
     QString endpoint(const QString &model);
+    /// What the console can open, for TESSALY_EXTRA_PORTS.
+    QStringList serialPorts();
 
     /// What was said about frames: "Tempo Deck | ID 0 | 80 02 01 | Play", without the time.
     QStringList frames();
