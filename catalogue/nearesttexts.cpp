@@ -22,11 +22,11 @@ int distanceFromBeginning(const QString &left, const QString &right)
 {
     std::vector<int> row(static_cast<size_t>(right.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < left.size(); ++i) {
+    for (const QChar letter : left) {
         int diagonal = row[0]++;
         for (qsizetype j = 0; j < right.size(); ++j) {
             const auto place = static_cast<size_t>(j);
-            const int replaced = diagonal + (left.at(i) == right.at(j) ? 0 : 1);
+            const int replaced = diagonal + (letter == right.at(j) ? 0 : 1);
             diagonal = row[place + 1];
             row[place + 1] = std::min({replaced, row[place] + 1, row[place + 1] + 1});
         }

@@ -5,12 +5,6 @@
 
 #include "simulator/deviceconnection.h"
 
-namespace {
-
-constexpr qsizetype mostQueuedBytes = 4 * 1'048'576;
-
-} // namespace
-
 AnswerPlayer::AnswerPlayer(DeviceConnection *connection)
     : QObject(connection)
     , m_connection(connection)
@@ -24,7 +18,7 @@ void AnswerPlayer::play(const QList<AnswerStep> &steps)
     qsizetype size = 0;
     for (const AnswerStep &step : steps)
         size += step.bytes.size();
-    if (m_queuedBytes + size > mostQueuedBytes)
+    if (m_queuedBytes + size > DeviceConnection::mostQueuedBytes)
         return;
     m_queuedBytes += size;
     m_steps += steps;

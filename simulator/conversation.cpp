@@ -5,6 +5,7 @@
 
 #include "simulator/answerplayer.h"
 #include "simulator/deviceconnection.h"
+#include "simulator/fault.h"
 #include "simulator/framelog.h"
 #include "simulator/framemeaning.h"
 #include "simulator/simulateddevice.h"
@@ -32,11 +33,9 @@ Conversation::Conversation(const DeviceModel &model, SimulatedDevice &device, co
     m_outage.setSingleShot(true);
     connect(&m_silence, &QTimer::timeout, this, [this] { handle(m_decoder.flush()); });
     connect(connection, &DeviceConnection::received, this, &Conversation::receive);
-}
-
-void Conversation::ignoreFor(std::chrono::milliseconds time)
-{
-    m_outage.start(time);
+    // A network device refuses the connection itself; on a serial line it can only be deaf.
+    if (fault && model.transport == TransportKind::Serial)
+        m_outage.start(fault->outage());
 }
 
 void Conversation::receive(const QByteArray &bytes)

@@ -24,9 +24,6 @@ public:
     Conversation(const DeviceModel &model, SimulatedDevice &device, const Fault *fault,
                  FrameLog &log, DeviceConnection *connection);
 
-    /// Reads nothing until the time is over, as a device that is still starting.
-    void ignoreFor(std::chrono::milliseconds time);
-
 private:
     void receive(const QByteArray &bytes);
     void handle(const QList<DecodedFrame> &frames);
@@ -38,5 +35,5 @@ private:
     AnswerPlayer *m_player;
     FrameDecoder m_decoder;
     QTimer m_silence;
-    QTimer m_outage;
+    QTimer m_outage; ///< until it is over, nothing is read
 };

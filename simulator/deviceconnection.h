@@ -11,9 +11,12 @@ class DeviceConnection : public QObject
     Q_OBJECT
 
 public:
+    /// What waits to be sent to a console that does not read; what exceeds it is lost.
+    static constexpr qint64 mostQueuedBytes = 4'194'304;
+
     using QObject::QObject;
 
-    /// Queues the bytes. When the console does not read, what exceeds four megabytes is lost.
+    /// Queues the bytes, unless that would be too many.
     virtual void send(const QByteArray &bytes) = 0;
 
     /// Cuts the link when the bytes sent so far are out.

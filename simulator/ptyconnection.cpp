@@ -15,8 +15,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qsizetype mostUnsentBytes = 4 * 1'048'576;
-
 /// Longer than a console may be busy with showing what it has read.
 constexpr auto unreadLimit = 30s;
 /// How long pulling the plug waits for the console to read what was sent before.
@@ -78,7 +76,7 @@ void PtyConnection::close()
 
 void PtyConnection::send(const QByteArray &bytes)
 {
-    if (m_unsent.size() + bytes.size() > mostUnsentBytes)
+    if (m_unsent.size() + bytes.size() > mostQueuedBytes)
         return;
     m_unsent += bytes;
     writeMaster();

@@ -20,6 +20,12 @@ using namespace Qt::Literals::StringLiterals;
 
 struct Simulator::Device
 {
+    Device(const Endpoint &place, int playerId)
+        : endpoint(place)
+        , device(place.model, playerId, QDateTime::currentDateTime())
+    {
+    }
+
     Endpoint endpoint;
     SimulatedDevice device;
     PortLink link;
@@ -44,12 +50,10 @@ QString Simulator::start()
     if (QString error = prepareLinkFolder(); !error.isEmpty())
         return error;
     for (const Endpoint &endpoint : m_options.endpoints) {
-        const SimulatedDevice device(endpoint.model, m_options.playerId,
-                                     QDateTime::currentDateTime());
-        m_devices.push_back(std::make_unique<Device>(endpoint, device));
-        const QString error = endpoint.model.transport == TransportKind::Serial
-                                  ? startSerial(*m_devices.back())
-                                  : startTcp(*m_devices.back());
+        m_devices.push_back(std::make_unique<Device>(endpoint, m_options.playerId));
+        QString error = endpoint.model.transport == TransportKind::Serial
+                            ? startSerial(*m_devices.back())
+                            : startTcp(*m_devices.back());
         if (!error.isEmpty())
             return error;
     }
@@ -66,7 +70,7 @@ QString Simulator::startSerial(Device &device)
     const QString &name = device.endpoint.model.name;
     const QString path = linkPath(device.endpoint.model);
     const auto announce = [this, &device, name, path](const QString &port) {
-        const QString error = path.isEmpty() ? QString() : device.link.point(path, port);
+        QString error = path.isEmpty() ? QString() : device.link.point(path, port);
         m_log.write(path.isEmpty() || !error.isEmpty() ? name + ": "_L1 + port
                                                        : u"%1: %2 (%3)"_s.arg(name, path, port));
         return error;
@@ -95,11 +99,7 @@ QString Simulator::startTcp(Device &device)
 
 void Simulator::converse(Device &device, DeviceConnection *connection)
 {
-    auto *conversation
-        = new Conversation(device.endpoint.model, device.device, m_fault.get(), m_log, connection);
-    // A network device refuses the connection itself; on a serial line it can only be deaf.
-    if (m_fault && device.endpoint.model.transport == TransportKind::Serial)
-        conversation->ignoreFor(m_fault->outage());
+    new Conversation(device.endpoint.model, device.device, m_fault.get(), m_log, connection);
 }
 
 QString Simulator::prepareLinkFolder()

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr qint64 mostUnsentBytes = 4 * 1'048'576;
 constexpr qint64 readBufferSize = 65'536;
 
 } // namespace
@@ -24,7 +23,7 @@ TcpConnection::TcpConnection(QTcpSocket *socket, QObject *parent)
 
 void TcpConnection::send(const QByteArray &bytes)
 {
-    if (m_socket->bytesToWrite() + bytes.size() <= mostUnsentBytes)
+    if (m_socket->bytesToWrite() + bytes.size() <= mostQueuedBytes)
         m_socket->write(bytes);
 }
 
