@@ -11,10 +11,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-bool prepareProgramTest(VirtualScreen &screen)
+bool prepareProgramTest(VirtualScreen &screen, const char *screenSize)
 {
     prepareTestEnvironment();
-    if (!screen.start()) {
+    if (!screen.start(screenSize)) {
         std::fputs("FAIL!  : no X server: Xvfb is missing or did not start (scripts/setup "
                    "installs it)\n",
                    stderr);

@@ -10,8 +10,9 @@
 
 /// Starts the screen and lets this process and its programs use it, without any part of the user's
 /// desktop session. To be called before the application object is created.
+/// \a screenSize as VirtualScreen::start() takes it
 /// \return false, having said why, when a tool is missing
-bool prepareProgramTest(VirtualScreen &screen);
+bool prepareProgramTest(VirtualScreen &screen, const char *screenSize = "1280x1024");
 
 // main() of a test that drives the built console.
 #define TESSALY_PROGRAM_TEST_MAIN(TestClass) \

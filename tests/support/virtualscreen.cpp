@@ -44,15 +44,16 @@ VirtualScreen::~VirtualScreen()
     ::waitpid(m_process, nullptr, 0);
 }
 
-bool VirtualScreen::start()
+bool VirtualScreen::start(const char *size)
 {
     int pipeEnds[2];
     if (::pipe2(pipeEnds, O_CLOEXEC) != 0)
         return false;
 
     // The server picks a free display and tells its number when it is ready.
-    std::array arguments{"Xvfb",         "-displayfd", "1",   "-screen",   "0",
-                         "1280x1024x24", "-nolisten",  "tcp", "-terminate"};
+    const QByteArray mode = size + QByteArray("x24");
+    std::array arguments{"Xvfb",           "-displayfd", "1",   "-screen",   "0",
+                         mode.constData(), "-nolisten",  "tcp", "-terminate"};
     std::array<char *, arguments.size() + 1> argv{};
     for (std::size_t i = 0; i < arguments.size(); ++i)
         argv[i] = const_cast<char *>(arguments[i]);

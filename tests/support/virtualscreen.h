@@ -20,8 +20,9 @@ public:
     Q_DISABLE_COPY_MOVE(VirtualScreen)
 
     /// Returns when the server accepts clients.
+    /// \a size "WIDTHxHEIGHT" of the screen in pixels
     /// \return false when there is no such program, or it ends or says nothing for 30 seconds
-    bool start();
+    bool start(const char *size = "1280x1024");
 
     /// For the environment variable DISPLAY: ":99".
     QByteArray displayName() const { return m_displayName; }
