@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QImageReader>
+#include <QPalette>
 
 #include <algorithm>
 #include <cmath>
@@ -34,6 +35,9 @@ const char *const iconNames[] = {
     "Next_Sub_Loop",
 };
 static_assert(std::size(iconNames) == 21);
+
+// The icons of the menus have a second picture, for the highlighted line.
+const char *const menuIconNames[] = {"Exit_A", "Web_Site_B", "Send_Mail", "About"};
 
 QString pathOf(const char *name)
 {
@@ -167,6 +171,8 @@ private slots:
     void mainToneContrasts_data() { addPictures(); }
     void mainToneContrasts();
 
+    void highlightedMenuIcon_data();
+    void highlightedMenuIcon();
     void applicationIcon();
 
     void noTwoAlike();
@@ -225,6 +231,31 @@ void tst_Images::mainToneContrasts()
     if (QTest::currentTestFailed())
         return;
     compareContrast(imageAt(doubledPath(path)));
+}
+
+void tst_Images::highlightedMenuIcon_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("activePath");
+    for (const char *name : menuIconNames)
+        QTest::newRow(name) << pathOf(name) << pathOf(name).replace(".png"_L1, "_Active.png"_L1);
+}
+
+void tst_Images::highlightedMenuIcon()
+{
+    QFETCH(const QString, path);
+    QFETCH(const QString, activePath);
+
+    const QColor highlight = QPalette().color(QPalette::Highlight);
+    for (const auto &[plain, active] :
+         {std::pair(path, activePath), std::pair(doubledPath(path), doubledPath(activePath))}) {
+        const QImage image = imageAt(active);
+        QCOMPARE(image.size(), imageAt(plain).size());
+        QCOMPARE(image.convertToFormat(QImage::Format_Alpha8),
+                 imageAt(plain).convertToFormat(QImage::Format_Alpha8));
+        const double found = contrast(mainTone(image), highlight);
+        QVERIFY2(found >= requiredContrast, qPrintable(QString::number(found)));
+    }
 }
 
 void tst_Images::applicationIcon()
