@@ -21,6 +21,7 @@ MainWindow::MainWindow(QWidget *parent, std::chrono::milliseconds connectTimeLim
 {
     Q_INIT_RESOURCE(images); // a static library's resources do not register themselves
     m_ui->setupUi(this);
+    completeForm();
     fillPlayerList();
     fillSerialPortList();
     applyStartupDefaults();

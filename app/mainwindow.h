@@ -152,6 +152,9 @@ public slots:
     void on_comboBox_Subtitles_Type_activated();
 
 private:
+    /// Adds to the form what its file cannot hold (ui/).
+    void completeForm();
+
     // Steps of the constructor; invokable, so that a test can repeat one on a changed window.
     void fillPlayerList();
     Q_INVOKABLE void fillSerialPortList();
@@ -170,6 +173,9 @@ private:
     void sendUnlessEmpty(quint8 code, const QByteArray &body);
     void showReceivedData(const QByteArray &bytes);
 
+    static QString firmwareNote(const QString &firmware);
+    /// Makes room for the longest note, so that nothing below it moves with the model.
+    void reserveFirmwareNoteRoom();
     void showConnectionPanel(const DeviceModel &model);
     void showCommand(const CommandEntry &entry, const DeviceModel &model);
     void showVolume(const CommandEntry &entry);

@@ -301,16 +301,38 @@ void MainWindow::addOtherCommand(const QString &label)
 
 void MainWindow::updateFirmwareNote()
 {
+    reserveFirmwareNoteRoom();
     const QString firmware = selectedModel().firmwareVersion;
     if (firmware.isEmpty()) {
         m_ui->label_Comments->clear();
         return;
     }
-    m_ui->label_Comments->setText(
-        tr("All commands present in this model can be executed for devices with firmware ")
-        + firmware
-        + tr(" or higher. If the device embed a lower firmware version, some commands may not be "
-             "executed. Refer to the release notes of this application for more information."));
+    m_ui->label_Comments->setText(firmwareNote(firmware));
+}
+
+QString MainWindow::firmwareNote(const QString &firmware)
+{
+    return tr("All commands present in this model can be executed for devices with firmware ")
+           + firmware
+           + tr(
+               " or higher. If the device embed a lower firmware version, some commands may not be "
+               "executed. Refer to the release notes of this application for more information.");
+}
+
+void MainWindow::reserveFirmwareNoteRoom()
+{
+    QString longest;
+    for (const DeviceModel &model : std::as_const(deviceCatalogue)) {
+        if (model.firmwareVersion.size() > longest.size())
+            longest = model.firmwareVersion;
+    }
+    const QFrame *frame = m_ui->frame_Settings;
+    const QMargins margins = frame->layout()->contentsMargins();
+    const int width = qMax(frame->minimumWidth(), frame->minimumSizeHint().width())
+                      - 2 * frame->frameWidth() - margins.left() - margins.right();
+    const QRect room = m_ui->label_Comments->fontMetrics().boundingRect(
+        QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(longest));
+    m_ui->label_Comments->setMinimumHeight(room.height());
 }
 
 void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)

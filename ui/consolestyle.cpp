@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/consolestyle.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QStyleOptionComboBox>
+
+ConsoleStyle::ConsoleStyle()
+    : QProxyStyle(QApplication::style()->name())
+{
+}
+
+void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *option,
+                               QPainter *painter, const QWidget *widget) const
+{
+    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (element != CE_ComboBoxLabel || !list) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    const int room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget).width();
+    QStyleOptionComboBox elided(*list);
+    // The styles leave a pixel free on both sides of the text.
+    elided.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideMiddle, room - 2);
+    QProxyStyle::drawControl(element, &elided, painter, widget);
+}
+
+void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const
+{
+    if (element != PE_Frame)
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int ConsoleStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                              const QWidget *widget) const
+{
+    if (metric == PM_DefaultFrameWidth && qobject_cast<const QFrame *>(widget))
+        return 0;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void ConsoleStyle::drawItemText(QPainter *painter, const QRect &rectangle, int alignment,
+                                const QPalette &palette, bool enabled, const QString &text,
+                                QPalette::ColorRole textRole) const
+{
+    // A list draws its text this way, too, and shows that it is disabled.
+    QPalette readable(palette);
+    if (textRole == QPalette::WindowText)
+        readable.setCurrentColorGroup(QPalette::Active);
+    QProxyStyle::drawItemText(painter, rectangle, alignment, readable,
+                              enabled || textRole == QPalette::WindowText, text, textRole);
+}

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QProxyStyle>
+
+/// The application's style with what this window's parts want otherwise. It is set on single
+/// widgets: children do not take it over.
+class ConsoleStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ConsoleStyle();
+
+    /// A list whose current text is longer than the room shows its beginning and its end.
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    /// A panel has no outline: separator lines divide the groups, and captions share one edge.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override;
+    /// A label is as readable in a disabled panel as in an enabled one.
+    void drawItemText(QPainter *painter, const QRect &rectangle, int alignment,
+                      const QPalette &palette, bool enabled, const QString &text,
+                      QPalette::ColorRole textRole) const override;
+};
