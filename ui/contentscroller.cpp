@@ -46,6 +46,7 @@ ContentScroller::ContentScroller(QWidget *view)
 
 bool ContentScroller::eventFilter(QObject *watched, QEvent *event)
 {
+    // The layout has just squeezed its content into the view: it saw the event first.
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
         arrange();
     } else if (event->type() == QEvent::Wheel) {
@@ -77,7 +78,14 @@ void ContentScroller::arrange()
         m_vertical->setGeometry(room.width() - thickness, 0, thickness, room.height());
     if (isShown(m_horizontal))
         m_horizontal->setGeometry(0, room.height() - thickness, page.width(), thickness);
-    placeContent();
+
+    if (m_content == room && m_moved.isNull())
+        return;
+    // A layout places nothing when its rectangle is the same as before.
+    m_view->layout()->setGeometry(QRect(QPoint(), m_content + QSize(0, 1)));
+    m_view->layout()->setGeometry(QRect(QPoint(), m_content));
+    m_moved = {};
+    moveContent();
 }
 
 void ContentScroller::placeBar(QScrollBar *&bar, Qt::Orientation orientation, int page, int content)
@@ -87,7 +95,7 @@ void ContentScroller::placeBar(QScrollBar *&bar, Qt::Orientation orientation, in
         bar = new QScrollBar(orientation, m_view);
         // A wheel turn that the bar does not take must not come back to it by way of the view.
         bar->setAttribute(Qt::WA_NoMousePropagation);
-        connect(bar, &QScrollBar::valueChanged, this, &ContentScroller::placeContent);
+        connect(bar, &QScrollBar::valueChanged, this, &ContentScroller::moveContent);
     }
     if (!bar)
         return;
@@ -98,12 +106,18 @@ void ContentScroller::placeBar(QScrollBar *&bar, Qt::Orientation orientation, in
     bar->setSingleStep(m_view->fontMetrics().lineSpacing() * 2);
 }
 
-void ContentScroller::placeContent()
+void ContentScroller::moveContent()
 {
-    const QSize surplus = m_content - m_view->size();
-    const int x = offset(m_horizontal);
-    const int y = offset(m_vertical);
-    m_view->setContentsMargins(-x, -y, x - surplus.width(), y - surplus.height());
+    const QPoint scrolled(offset(m_horizontal), offset(m_vertical));
+    const QPoint step = m_moved - scrolled;
+    m_moved = scrolled;
+    // The bars stay.
+    const QList<QWidget *> children
+        = m_view->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        if (child != m_horizontal && child != m_vertical && !child->isWindow())
+            child->move(child->pos() + step);
+    }
 }
 
 QSize ContentScroller::contentSize(QSize room) const

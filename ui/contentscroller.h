@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
 #include <QSize>
 
 class QScrollBar;
@@ -11,7 +12,7 @@ class QWidget;
 
 /// Scrolls the content of a widget that is smaller than its layout needs, by scroll bars, the wheel
 /// and the keyboard focus. Unlike QScrollArea it leaves the content where it is in the tree of
-/// widgets: negative margins give the layout more room than its widget has.
+/// widgets: the layout is given more room than its widget has.
 class ContentScroller : public QObject
 {
     Q_OBJECT
@@ -25,13 +26,14 @@ public:
 private:
     void arrange();
     void placeBar(QScrollBar *&bar, Qt::Orientation orientation, int page, int content);
-    void placeContent();
+    void moveContent();
     /// At least the room; more where the layout needs more.
     QSize contentSize(QSize room) const;
     void showFocus(const QWidget *focus);
 
     QWidget *m_view;
     QSize m_content;
+    QPoint m_moved; ///< how far the content is scrolled already
     // Made when they are needed for the first time.
     QScrollBar *m_horizontal = nullptr;
     QScrollBar *m_vertical = nullptr;
