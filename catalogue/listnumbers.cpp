@@ -70,6 +70,15 @@ QStringList folderTexts(const CommandEntry &entry, int bankCount)
     return texts;
 }
 
+NumberRange folderRange(const CommandEntry &entry, int bankCount)
+{
+    const NumberRange range = byteRange(entry);
+    if (range.last < range.first || bankCount < 1)
+        return {};
+    const int bankSize = range.last - range.first + 1;
+    return {range.first, qMin(bankSize * (bankCount - 1) + range.last, highestFolder)};
+}
+
 int numberFromText(const QString &text)
 {
     return text.toInt();

@@ -38,5 +38,8 @@ QStringList paddedNumberTexts(NumberRange range);
 /// range, counted on from bank to bank, none above 999.
 QStringList folderTexts(const CommandEntry &entry, int bankCount);
 
+/// The lowest and the highest of these numbers; empty when there is none.
+NumberRange folderRange(const CommandEntry &entry, int bankCount);
+
 /// The number that a list text shows, base 10; 0 when it is none or does not fit 32 bits.
 int numberFromText(const QString &text);

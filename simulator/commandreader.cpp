@@ -190,12 +190,8 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
 
 NumberRange valueRange(const DeviceModel &model, const CommandEntry &entry)
 {
-    if (entry.commandId == CommandId::Folder) {
-        const QStringList folders = folderTexts(entry, model.folderBankCount);
-        return folders.isEmpty()
-                   ? NumberRange{}
-                   : NumberRange{numberFromText(folders.first()), numberFromText(folders.last())};
-    }
+    if (entry.commandId == CommandId::Folder)
+        return folderRange(entry, model.folderBankCount);
     return model.protocol == ProtocolKind::Classic ? byteRange(entry) : wordRange(entry);
 }
 

@@ -65,6 +65,7 @@ QList<DecodedFrame> FrameDecoder::decode(bool isComplete)
         }
     }
     giveStray();
-    m_pending.remove(0, position);
+    // A copy: remove() would keep the room that all the bytes have taken.
+    m_pending = m_pending.sliced(position);
     return frames;
 }

@@ -104,12 +104,16 @@ QStringList iso6393List()
 
 QStringList subtitleValues(const QString &type)
 {
+    static const QStringList bibliographic = bibliographicList();
+    static const QStringList terminology = terminologyList();
+    static const QStringList iso6393 = iso6393List();
+
     if (type == subtitleTypeIso6392B)
-        return bibliographicList();
+        return bibliographic;
     if (type == subtitleTypeIso6392T)
-        return terminologyList();
+        return terminology;
     if (type == subtitleTypeIso6393)
-        return iso6393List();
+        return iso6393;
     if (type == subtitleTypeIndex)
         return numberTexts({0, 127});
     return {};
