@@ -82,6 +82,12 @@ QStringList SimulatorProgram::serialPorts()
     return ports;
 }
 
+QStringList SimulatorProgram::lines()
+{
+    readLines();
+    return m_lines;
+}
+
 QStringList SimulatorProgram::frames()
 {
     readLines();

@@ -36,6 +36,8 @@ public:
     /// What the console can open, for TESSALY_EXTRA_PORTS.
     QStringList serialPorts();
 
+    /// Everything that was said, in lines.
+    QStringList lines();
     /// What was said about frames: "Tempo Deck | ID 0 | 80 02 01 | Play", without the time.
     QStringList frames();
     void forgetFrames();
