@@ -971,6 +971,7 @@ private slots:
         // The waiting bytes must not take much more room than their number.
         QTest::newRow("single-bytes, pty") << serial << u"single-bytes"_s << megabyte;
         QTest::newRow("single-bytes, TCP/IP") << vistarShowTcp << u"single-bytes"_s << megabyte;
+        QTest::newRow("megabyte, pty") << serial << u"megabyte"_s << 20'000;
         QTest::newRow("megabyte, TCP/IP") << vistarShowTcp << u"megabyte"_s << 20'000;
     }
 
