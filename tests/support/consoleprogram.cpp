@@ -55,6 +55,13 @@ bool waitFor(const char *what, Condition condition)
     return done;
 }
 
+/// Both ends of a text that may be very long.
+QString excerpt(const QString &text)
+{
+    constexpr qsizetype length = 200;
+    return text.size() <= 2 * length ? text : text.first(length) + u"..."_s + text.last(length);
+}
+
 QImage screenshot(const QRect &area)
 {
     return QGuiApplication::primaryScreen()
@@ -128,11 +135,38 @@ void ConsoleProgram::expectLink(bool open)
     }
     for (const char *name : {"pushButton_Disconnect", "frame_Commands"})
         twin<QWidget>(name)->setEnabled(open);
+    twin<QLabel>("label_Connection_Message")->hide();
+}
+
+void ConsoleProgram::expectConnecting()
+{
+    expectLink(true);
+    for (const char *name : {"pushButton_Disconnect", "frame_Commands"})
+        twin<QWidget>(name)->setEnabled(false);
+    twin<QLabel>("label_Connection_Message")->show();
 }
 
 bool ConsoleProgram::looksAsExpected() const
 {
     return looksLike(m_twin.get(), title());
+}
+
+bool ConsoleProgram::looksAsExpected(const char *widget) const
+{
+    const auto *expected = twin<QWidget>(widget);
+    const bool alike = QTest::qWaitFor(
+        [&] {
+            const QPoint corner = geometry(title()).topLeft();
+            const QRect place(expected->mapTo(m_twin.get(), QPoint()), expected->size());
+            return screenshot(place.translated(corner))
+                   == m_twin->grab(place).toImage().convertToFormat(QImage::Format_RGB32);
+        },
+        timeLimit);
+    if (!alike) {
+        qWarning("%s does not look as expected", widget);
+        saveScreenshot(u"unexpected"_s);
+    }
+    return alike;
 }
 
 bool ConsoleProgram::looksLike(const QWidget *twin, const QString &title) const
@@ -234,7 +268,7 @@ bool ConsoleProgram::typeAddress(const QString &address)
     return true;
 }
 
-bool ConsoleProgram::copies(const QString &text) const
+bool ConsoleProgram::copies(const QString &text, int limit) const
 {
     QString copied;
     // Until the owner's announcement is here, the owner refuses the test as one that comes too
@@ -248,9 +282,10 @@ bool ConsoleProgram::copies(const QString &text) const
             copied = QGuiApplication::clipboard()->text();
             return copied == text;
         },
-        timeLimit);
+        limit);
     if (!done) {
-        qWarning() << "copied" << copied << "instead of" << text;
+        qWarning() << "copied" << copied.size() << "characters:" << excerpt(copied) << "instead of"
+                   << text.size() << "characters:" << excerpt(text);
         saveScreenshot(u"unexpected"_s);
     }
     return done;

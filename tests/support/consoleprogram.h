@@ -45,7 +45,11 @@ public:
     }
     /// Gives the twin the look of a window with or without an open link.
     void expectLink(bool open);
+    /// Gives the twin the look of a window that waits for a TCP connection.
+    void expectConnecting();
     bool looksAsExpected() const;
+    /// Like looksAsExpected(), for one widget, whatever it is. It must not have the keyboard.
+    bool looksAsExpected(const char *widget) const;
     /// Like looksAsExpected(), for another window of the program and a twin of that.
     bool looksLike(const QWidget *twin, const QString &title) const;
 
@@ -59,7 +63,8 @@ public:
     /// Types an IPv4 address into its four boxes, which the model has to show.
     bool typeAddress(const QString &address);
     /// Waits until "select all" and "copy" in the widget clicked last give that text.
-    bool copies(const QString &text) const;
+    /// \a limit in ms; reached only by what fails
+    bool copies(const QString &text, int limit = 20'000) const;
 
     bool hasWindow(const QString &title) const;
     /// Gives a window the keyboard, which nobody does without a window manager.
