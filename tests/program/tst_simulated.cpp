@@ -8,8 +8,11 @@
 
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QHostAddress>
 #include <QLabel>
+
+#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -242,6 +245,7 @@ private slots:
     void megabyte();
     void markup_data() { addLinks(); }
     void markup();
+    void markupOpensNoFile();
     void deafSerialLine();
     void refusedConnection();
     void refusedCommand();
@@ -733,6 +737,26 @@ void tst_Simulated::markup()
     QVERIFY(desk.disconnectLink());
     QVERIFY(desk.quit());
     QCOMPARE(desk.frames(), desk.lines({play, stop}));
+}
+
+/// A picture that a device names may be anything on this computer: opening a pipe that nobody
+/// writes to would never end.
+void tst_Simulated::markupOpensNoFile()
+{
+    const QTemporaryDir folder;
+    const QByteArray pipe = QFile::encodeName(folder.filePath(u"pipe"_s));
+    QCOMPARE(::mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
+    TcpPeer peer(65079);
+    Desk desk(u"Vistar Show - SV500 (TCP/IP)"_s);
+    QVERIFY(desk.startConsole());
+    QVERIFY(desk.connectLink());
+    QTRY_VERIFY(peer.isConnected());
+
+    peer.send("<b>OK</b><img src=\"file://" + pipe + "\">");
+    QVERIFY(desk.showsReceived(u"OK\uFFFC"_s));
+    QVERIFY(desk.console().press({u"XF86AudioStop"_s}));
+    QTRY_COMPARE_WITH_TIMEOUT(peer.received().toHex(' '), "80 02 02"_ba, responseLimit);
+    QVERIFY(desk.quit());
 }
 
 /// A serial line opens whether or not the device listens; what was sent too early is lost.
