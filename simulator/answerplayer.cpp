@@ -5,6 +5,13 @@
 
 #include "simulator/deviceconnection.h"
 
+namespace {
+
+/// An answer of single bytes is a step for each, and a step takes more room than its byte.
+constexpr qsizetype mostQueuedSteps = 65'536;
+
+} // namespace
+
 AnswerPlayer::AnswerPlayer(DeviceConnection *connection)
     : QObject(connection)
     , m_connection(connection)
@@ -18,8 +25,10 @@ void AnswerPlayer::play(const QList<AnswerStep> &steps)
     qsizetype size = 0;
     for (const AnswerStep &step : steps)
         size += step.bytes.size();
-    if (m_queuedBytes + size > DeviceConnection::mostQueuedBytes)
+    if (m_queuedBytes + size > DeviceConnection::mostQueuedBytes
+        || m_steps.size() + steps.size() > mostQueuedSteps) {
         return;
+    }
     m_queuedBytes += size;
     m_steps += steps;
     if (!m_timer.isActive() && !m_steps.isEmpty())

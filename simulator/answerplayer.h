@@ -18,7 +18,7 @@ public:
     explicit AnswerPlayer(DeviceConnection *connection);
 
     /// Queues the steps behind those that are not done yet. An answer that would bring more than
-    /// DeviceConnection::mostQueuedBytes into the queue is lost.
+    /// DeviceConnection::mostQueuedBytes, or very many steps, into the queue is lost.
     void play(const QList<AnswerStep> &steps);
 
 private:

@@ -175,7 +175,7 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
     case CommandId::SourceWebradio:
     case CommandId::SourceAlternate:
         command.number = cursor.takeNumberText();
-        cursor.takeNumberText();
+        cursor.expect("0"_ba + '\0');
         break;
     default: {
         QByteArray arguments;

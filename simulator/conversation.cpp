@@ -31,7 +31,10 @@ Conversation::Conversation(const DeviceModel &model, SimulatedDevice &device, co
 {
     m_silence.setSingleShot(true);
     m_outage.setSingleShot(true);
-    connect(&m_silence, &QTimer::timeout, this, [this] { handle(m_decoder.flush()); });
+    m_outage.setTimerType(Qt::PreciseTimer);
+    const auto giveUpOnFrame = [this] { handle(m_decoder.flush()); };
+    connect(&m_silence, &QTimer::timeout, this, giveUpOnFrame);
+    connect(connection, &DeviceConnection::closed, this, giveUpOnFrame);
     connect(connection, &DeviceConnection::received, this, &Conversation::receive);
     // A network device refuses the connection itself; on a serial line it can only be deaf.
     if (fault && model.transport == TransportKind::Serial)

@@ -24,4 +24,6 @@ public:
 
 signals:
     void received(const QByteArray &bytes);
+    /// The console is gone; no more will be received.
+    void closed();
 };

@@ -150,9 +150,10 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     const auto isRemote = [](const Endpoint &endpoint) {
         return !endpoint.address.isNull() && !endpoint.address.isLoopback();
     };
-    if (std::ranges::any_of(options.endpoints, isRemote) && !parser.isSet(allowRemote)) {
+    const auto remote = std::ranges::find_if(options.endpoints, isRemote);
+    if (remote != options.endpoints.cend() && !parser.isSet(allowRemote)) {
         return failure(u"Other computers may reach %1. Add --allow-remote if you want that."_s.arg(
-            firstAddress.toString()));
+            remote->address.toString()));
     }
     const std::optional<int> playerId = parsedNumber(parser.value(id), {0, highestPlayerId});
     if (!playerId)

@@ -390,7 +390,9 @@ QString SimulatedDevice::mediumText() const
 
 QString SimulatedDevice::folderText() const
 {
-    return paddedNumber(m_source.isEmpty() ? m_folder : m_reference);
+    if (m_source.isEmpty())
+        return paddedNumber(m_folder);
+    return folderTypeText() == "none"_L1 ? u"none"_s : paddedNumber(m_reference);
 }
 
 QString SimulatedDevice::remainingTimeText() const

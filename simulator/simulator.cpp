@@ -111,14 +111,14 @@ QString Simulator::prepareLinkFolder()
         return u"None of the models is a serial one, so there is nothing to link."_s;
     if (serialModelCount() == 1 || QDir(path).exists())
         return {};
-    if (!QDir().mkpath(path))
+    if (!QDir().mkdir(path))
         return u"The folder %1 cannot be made."_s.arg(path);
     m_madeFolder = path;
     return {};
 }
 
-/// With one serial model the path itself, with several a name in it: "Tempo-Deck". Empty when no
-/// link is asked for.
+/// With one serial model the path itself, with several a name in it: "Tempo-Deck", or
+/// "Tempo-Deck-2" for the second of its kind. Empty when no link is asked for.
 QString Simulator::linkPath(const DeviceModel &model) const
 {
     if (m_options.linkPath.isEmpty() || serialModelCount() == 1)
@@ -129,7 +129,10 @@ QString Simulator::linkPath(const DeviceModel &model) const
         .replace(u'/', u'-')
         .replace(u' ', u'-')
         .replace("---"_L1, "-"_L1);
-    return m_options.linkPath + u'/' + name;
+    const auto sameModels = std::ranges::count(
+        m_devices, model.name, [](const auto &device) { return device->endpoint.model.name; });
+    const QString number = sameModels > 1 ? u"-%1"_s.arg(sameModels) : QString();
+    return m_options.linkPath + u'/' + name + number;
 }
 
 int Simulator::serialModelCount() const

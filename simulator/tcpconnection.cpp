@@ -18,6 +18,7 @@ TcpConnection::TcpConnection(QTcpSocket *socket, QObject *parent)
     socket->setParent(this);
     socket->setReadBufferSize(readBufferSize);
     connect(socket, &QTcpSocket::readyRead, this, [this] { emit received(m_socket->readAll()); });
+    connect(socket, &QTcpSocket::disconnected, this, &DeviceConnection::closed);
     connect(socket, &QTcpSocket::disconnected, this, &QObject::deleteLater);
 }
 

@@ -18,7 +18,12 @@ TcpListener::TcpListener(std::chrono::milliseconds outage, QObject *parent)
     , m_outage(outage)
 {
     m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, [this] { m_server.listen(m_address, m_port); });
+    m_timer.setTimerType(Qt::PreciseTimer);
+    // Somebody else may have taken the port meanwhile.
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        if (!m_server.listen(m_address, m_port))
+            m_timer.start(m_outage);
+    });
     connect(&m_server, &QTcpServer::newConnection, this, &TcpListener::accept);
 }
 
