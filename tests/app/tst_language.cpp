@@ -569,8 +569,22 @@ void tst_Language::systemLanguage_data()
         << none << "fr_CA.UTF-8"_ba << u"fr_CA"_s << u"Connecter"_s << aPropos;
     QTest::newRow("LC_ALL before LANG") << "en_GB.UTF-8"_ba
                                         << "fr_FR.UTF-8"_ba << u"en_GB"_s << u"Connect"_s << about;
-    QTest::newRow("no file: de_DE")
-        << "de_DE.UTF-8"_ba << none << u"de_DE"_s << u"Connect"_s << about;
+    QTest::newRow("de_DE") << "de_DE.UTF-8"_ba << none << u"de_DE"_s << u"Verbinden"_s
+                           << u"Ü&ber Tessaly"_s;
+    QTest::newRow("de_AT") << "de_AT.UTF-8"_ba << none << u"de_AT"_s << u"Verbinden"_s
+                           << u"Ü&ber Tessaly"_s;
+    QTest::newRow("es_MX") << "es_MX.UTF-8"_ba << none << u"es_MX"_s << u"Conectar"_s
+                           << u"&Acerca de Tessaly"_s;
+    QTest::newRow("it_CH") << "it_CH.UTF-8"_ba << none << u"it_CH"_s << u"Connetti"_s
+                           << u"&Informazioni su Tessaly"_s;
+    QTest::newRow("nl_BE") << "nl_BE.UTF-8"_ba << none << u"nl_BE"_s << u"Verbinden"_s
+                           << u"&Over Tessaly"_s;
+    QTest::newRow("pt_BR") << "pt_BR.UTF-8"_ba << none << u"pt_BR"_s << u"Conectar"_s
+                           << u"S&obre Tessaly"_s;
+    QTest::newRow("pt_PT by LANG")
+        << none << "pt_PT.UTF-8"_ba << u"pt_PT"_s << u"Conectar"_s << u"S&obre Tessaly"_s;
+    QTest::newRow("no file: sv_SE")
+        << "sv_SE.UTF-8"_ba << none << u"sv_SE"_s << u"Connect"_s << about;
     QTest::newRow("English file: en_US")
         << "en_US.UTF-8"_ba << none << u"en_US"_s << u"Connect"_s << about;
 }
@@ -584,10 +598,15 @@ void tst_Language::systemLanguage()
     QFETCH(QString, aboutText);
 
     const FolderOfItsOwn folder;
-    QVERIFY(QFile::copy(frenchFile, folder.filePath(u"LanguageData_fr.qm"_s)));
-    for (const QString &territory :
-         {u"fr_FR"_s, u"fr_BE"_s, u"fr_CA"_s, u"de_AT"_s, u"en_US"_s, u"de_DE"_s, u"en_GB"_s}) {
-        QVERIFY(QFile::copy(decoyFile, folder.filePath(u"LanguageData_"_s + territory + u".qm"_s)));
+    for (const char *code : {"de", "es", "fr", "it", "nl", "pt"}) {
+        const QString name = u"LanguageData_"_s + QString::fromLatin1(code) + u".qm"_s;
+        QVERIFY(QFile::copy(programFolder + u'/' + name, folder.filePath(name)));
+    }
+    for (const char *territory : {"de_AT", "de_DE", "en_GB", "en_US", "es_MX", "fr_BE", "fr_CA",
+                                  "fr_FR", "it_CH", "nl_BE", "pt_BR", "pt_PT", "sv_SE"}) {
+        QVERIFY(QFile::copy(
+            decoyFile,
+            folder.filePath(u"LanguageData_"_s + QString::fromLatin1(territory) + u".qm"_s)));
     }
 
     // The framework reads the environment once, so that each locale needs a process of its own.
