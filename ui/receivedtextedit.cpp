@@ -4,7 +4,9 @@
 #include "ui/receivedtextedit.h"
 
 #include <QImage>
+#include <QMimeData>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 
 QVariant ReceivedTextEdit::loadResource(int type, const QUrl &)
 {
@@ -17,4 +19,11 @@ QVariant ReceivedTextEdit::loadResource(int type, const QUrl &)
         return image;
     }();
     return placeholder;
+}
+
+QMimeData *ReceivedTextEdit::createMimeDataFromSelection() const
+{
+    auto *mime = new QMimeData;
+    mime->setText(textCursor().selection().toPlainText());
+    return mime;
 }

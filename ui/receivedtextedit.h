@@ -16,4 +16,8 @@ public:
 
     /// \return an empty picture, or no bytes, for every name
     QVariant loadResource(int type, const QUrl &name) override;
+
+protected:
+    /// \return the selected text alone: rich text, too, would load what it names
+    QMimeData *createMimeDataFromSelection() const override;
 };
