@@ -26,6 +26,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int deepestLayout = 10;
 constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 
 /// Its output, and nothing when it fails: looking for a window that is not there is such a failure.
@@ -60,6 +61,15 @@ QString excerpt(const QString &text)
 {
     constexpr qsizetype length = 200;
     return text.size() <= 2 * length ? text : text.first(length) + u"..."_s + text.last(length);
+}
+
+/// Where the pictures of this test are; made when it is not there.
+QDir pictureFolder()
+{
+    const QString test = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    QDir folder(QStringLiteral(TESSALY_SCREENSHOTS) + u'/' + test);
+    folder.mkpath(u"."_s);
+    return folder;
 }
 
 QImage screenshot(const QRect &area)
@@ -181,6 +191,7 @@ bool ConsoleProgram::looksLike(const QWidget *twin, const QString &title) const
     if (!alike) {
         qWarning() << "the window does not look as expected:" << found;
         saveScreenshot(u"unexpected"_s, title);
+        const_cast<QWidget *>(twin)->grab().save(pictureFolder().filePath(u"expected.png"_s));
     }
     return alike;
 }
@@ -193,8 +204,10 @@ QString ConsoleProgram::difference(const QWidget *twin, const QString &title) co
         return u"window of %1 x %2 pixels"_s.arg(QString::number(area.width()),
                                                  QString::number(area.height()));
     }
-    // A text that the twin got just now may still have the size of the former one.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // A text that the twin got just now may still have the size of the former one, and each layout
+    // tells only the one around it.
+    for (int level = 0; level < deepestLayout; ++level)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const QImage shown = screenshot(area);
     const QImage expected
         = const_cast<QWidget *>(twin)->grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -358,8 +371,5 @@ QString ConsoleProgram::title()
 
 bool ConsoleProgram::saveScreenshot(const QString &name, const QString &windowTitle) const
 {
-    const QString test = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    const QDir folder(QStringLiteral(TESSALY_SCREENSHOTS) + u'/' + test);
-    return folder.mkpath(u"."_s)
-           && screenshot(geometry(windowTitle)).save(folder.filePath(name + ".png"_L1));
+    return screenshot(geometry(windowTitle)).save(pictureFolder().filePath(name + ".png"_L1));
 }
