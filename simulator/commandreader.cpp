@@ -188,6 +188,22 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
 
 } // namespace
 
+bool takesNumber(const CommandEntry &entry)
+{
+    switch (entry.commandId) {
+    case CommandId::Folder:
+    case CommandId::Volume:
+    case CommandId::ChangeId:
+    case CommandId::SubtitlesByIndex:
+    case CommandId::SourceFolder:
+    case CommandId::SourceSpotReset:
+    case CommandId::SourceWebradio:
+        return true;
+    default:
+        return false;
+    }
+}
+
 NumberRange valueRange(const DeviceModel &model, const CommandEntry &entry)
 {
     if (entry.commandId == CommandId::Folder)
@@ -215,18 +231,7 @@ CommandReading readCommand(const DeviceModel &model, const CommandEntry &entry,
         return reading;
     reading.length = cursor.position();
     command.entry = entry;
-    switch (entry.commandId) {
-    case CommandId::Folder:
-    case CommandId::Volume:
-    case CommandId::ChangeId:
-    case CommandId::SubtitlesByIndex:
-    case CommandId::SourceFolder:
-    case CommandId::SourceSpotReset:
-    case CommandId::SourceWebradio:
+    if (takesNumber(entry))
         command.inRange = contains(valueRange(model, entry), command.number);
-        break;
-    default:
-        break;
-    }
     return reading;
 }

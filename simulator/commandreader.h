@@ -21,5 +21,8 @@ struct CommandReading
 CommandReading readCommand(const DeviceModel &model, const CommandEntry &entry,
                            QByteArrayView bytes);
 
-/// The values that a ranged command of the model takes: folders, volumes, IDs, indexes, references.
+/// Whether the user picks a number for the command: a folder, volume, ID, index or reference.
+bool takesNumber(const CommandEntry &entry);
+
+/// The numbers that such a command of the model takes.
 NumberRange valueRange(const DeviceModel &model, const CommandEntry &entry);

@@ -20,22 +20,14 @@ QString rangeText(NumberRange range)
 
 QString commandText(const DeviceModel &model, const CommandEntry &entry)
 {
-    switch (entry.commandId) {
-    case CommandId::Folder:
-    case CommandId::Volume:
-    case CommandId::ChangeId:
-    case CommandId::SubtitlesByIndex:
-    case CommandId::SourceFolder:
-    case CommandId::SourceWebradio:
-        return u"%1 (%2)"_s.arg(entry.label, rangeText(valueRange(model, entry)));
-    case CommandId::SourceSpotReset:
-        return u"%1 (%2, option %3)"_s.arg(entry.label, rangeText(valueRange(model, entry)),
-                                           rangeText(byteRange(entry, 2)));
-    case CommandId::Request:
+    if (entry.commandId == CommandId::Request)
         return "Request: "_L1 + entry.label;
-    default:
+    if (!takesNumber(entry))
         return entry.label;
-    }
+    QString ranges = rangeText(valueRange(model, entry));
+    if (entry.commandId == CommandId::SourceSpotReset)
+        ranges += ", option "_L1 + rangeText(byteRange(entry, 2));
+    return u"%1 (%2)"_s.arg(entry.label, ranges);
 }
 
 QString linkText(const Endpoint &endpoint)
