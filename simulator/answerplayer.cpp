@@ -17,7 +17,10 @@ AnswerPlayer::AnswerPlayer(DeviceConnection *connection)
     , m_connection(connection)
 {
     m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &AnswerPlayer::playNext);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        playNext();
+        playDue();
+    });
 }
 
 void AnswerPlayer::play(const QList<AnswerStep> &steps)
@@ -31,8 +34,19 @@ void AnswerPlayer::play(const QList<AnswerStep> &steps)
     }
     m_queuedBytes += size;
     m_steps += steps;
-    if (!m_timer.isActive() && !m_steps.isEmpty())
-        m_timer.start(m_steps.front().pause);
+    if (!m_timer.isActive())
+        playDue();
+}
+
+void AnswerPlayer::playDue()
+{
+    while (!m_steps.isEmpty()) {
+        if (m_steps.front().pause.count() > 0) {
+            m_timer.start(m_steps.front().pause);
+            return;
+        }
+        playNext();
+    }
 }
 
 void AnswerPlayer::playNext()
@@ -45,6 +59,4 @@ void AnswerPlayer::playNext()
         m_queuedBytes = 0;
         m_connection->hangUp();
     }
-    if (!m_steps.isEmpty())
-        m_timer.start(m_steps.front().pause);
 }

@@ -17,11 +17,15 @@ class AnswerPlayer : public QObject
 public:
     explicit AnswerPlayer(DeviceConnection *connection);
 
-    /// Queues the steps behind those that are not done yet. An answer that would bring more than
-    /// DeviceConnection::mostQueuedBytes, or very many steps, into the queue is lost.
+    /// Takes the steps behind those that are not done yet. What needs no pause is sent before this
+    /// returns, so that a console that closes its side behind its command still gets the answer. An
+    /// answer that would bring more than DeviceConnection::mostQueuedBytes, or very many steps,
+    /// into the queue is lost.
     void play(const QList<AnswerStep> &steps);
 
 private:
+    /// Plays on up to the next pause.
+    void playDue();
     void playNext();
 
     DeviceConnection *m_connection;

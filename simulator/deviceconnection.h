@@ -19,7 +19,7 @@ public:
     /// Queues the bytes, unless that would be too many.
     virtual void send(const QByteArray &bytes) = 0;
 
-    /// Cuts the link when the bytes sent so far are out.
+    /// Cuts the link when the bytes sent so far are out. What is sent meanwhile is lost.
     virtual void hangUp() = 0;
 
 signals:

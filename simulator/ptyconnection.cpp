@@ -76,7 +76,7 @@ void PtyConnection::close()
 
 void PtyConnection::send(const QByteArray &bytes)
 {
-    if (m_unsent.size() + bytes.size() > mostQueuedBytes)
+    if (m_plugTimer.isActive() || m_unsent.size() + bytes.size() > mostQueuedBytes)
         return;
     m_unsent += bytes;
     writeMaster();
@@ -84,6 +84,8 @@ void PtyConnection::send(const QByteArray &bytes)
 
 void PtyConnection::hangUp()
 {
+    if (m_plugTimer.isActive())
+        return;
     m_hangingUp.start();
     m_plugTimer.start(plugPollInterval);
 }

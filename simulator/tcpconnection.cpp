@@ -24,8 +24,12 @@ TcpConnection::TcpConnection(QTcpSocket *socket, QObject *parent)
 
 void TcpConnection::send(const QByteArray &bytes)
 {
-    if (m_socket->bytesToWrite() + bytes.size() <= mostQueuedBytes)
-        m_socket->write(bytes);
+    const bool isCut = m_socket->state() != QAbstractSocket::ConnectedState;
+    if (isCut || m_socket->bytesToWrite() + bytes.size() > mostQueuedBytes)
+        return;
+    m_socket->write(bytes);
+    // A console that has closed its side ends the socket, with all that waits in it.
+    m_socket->flush();
 }
 
 void TcpConnection::hangUp()

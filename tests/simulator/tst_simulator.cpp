@@ -21,6 +21,7 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -769,6 +770,37 @@ private slots:
         QCOMPARE(patient->received(), "OK Play\r\n"_ba);
     }
 
+    void closedSide_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QByteArray>("play");
+
+        QTest::newRow("connection that stays") << vistarShowTcp << bytes("80 02 01");
+        QTest::newRow("connection on demand")
+            << lite << bytes("04 000000 636D6400 333200 32353500 32353500");
+    }
+
+    // Tools such as netcat close their side behind the command, and read on.
+    void closedSide()
+    {
+        QFETCH(const QString, model);
+        QFETCH(const QByteArray, play);
+
+        SimulatorProgram simulator;
+        QVERIFY(simulator.start(playing(model)));
+        const QString place = simulator.endpoint(model);
+        for (int i = 0; i < 10; ++i) {
+            TcpLine console(QHostAddress(place.section(u' ', 0, 0)),
+                            place.section(u' ', 2, 2).toUShort());
+            QTRY_VERIFY(console.isConnected());
+            console.socket().write(play);
+            QVERIFY(console.socket().flush());
+            QCOMPARE(::shutdown(static_cast<int>(console.socket().socketDescriptor()), SHUT_WR), 0);
+            QTRY_VERIFY(console.isCut());
+            QCOMPARE(console.received(), "OK Play\r\n"_ba);
+        }
+    }
+
     void faults_data()
     {
         QTest::addColumn<QString>("model");
@@ -881,6 +913,27 @@ private slots:
         }
         QVERIFY(simulator.stop());
         QCOMPARE(entriesOf(folder.path()), QStringList());
+    }
+
+    void nothingBehindHangUp_data()
+    {
+        QTest::addColumn<QString>("model");
+
+        QTest::newRow("serial") << tempoDeck;
+        QTest::newRow("TCP/IP") << vistarShowTcp;
+    }
+
+    void nothingBehindHangUp()
+    {
+        QFETCH(const QString, model);
+
+        SimulatorProgram simulator;
+        QVERIFY(simulator.start(playing(model, {u"--fault"_s, u"hang-up"_s})));
+        const auto console = lineTo(simulator, model);
+        QVERIFY(console->send(bytes("80 02 01 80 02 02 80 02 01")));
+        QTRY_VERIFY(console->isCut());
+        QCOMPARE(console->received(), "OK P"_ba);
+        QTRY_COMPARE(simulator.frames().size(), 3);
     }
 
     // Nobody reads the half answer: the plug is pulled all the same.
