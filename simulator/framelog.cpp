@@ -3,7 +3,12 @@
 
 #include "simulator/framelog.h"
 
+#include <QCoreApplication>
+#include <QTextStream>
+
 #include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
 
 FrameLog::FrameLog()
 {
@@ -22,7 +27,13 @@ void FrameLog::write(const QString &line)
     for (QFile *file : {&m_output, &m_file}) {
         if (!file->isOpen())
             continue;
-        file->write(bytes);
-        file->flush();
+        const bool isOut = file->write(bytes) == bytes.size() && file->flush();
+        if (file != &m_file || isOut != m_isFileFailing)
+            continue;
+        m_isFileFailing = !isOut;
+        if (m_isFileFailing) {
+            QTextStream(stderr) << QCoreApplication::applicationName() << ": "_L1
+                                << m_file.fileName() << ": "_L1 << m_file.errorString() << '\n';
+        }
     }
 }

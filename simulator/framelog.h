@@ -7,7 +7,8 @@
 #include <QString>
 
 /// The lines that the simulator says, on standard output and in a file if there is one. Each line
-/// is out when write() returns.
+/// is out when write() returns. When the file cannot take it, on a full disk, this is said on
+/// standard error, once until lines are written again.
 class FrameLog
 {
 public:
@@ -23,4 +24,5 @@ public:
 private:
     QFile m_output;
     QFile m_file;
+    bool m_isFileFailing = false;
 };

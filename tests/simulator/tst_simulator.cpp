@@ -564,6 +564,20 @@ private slots:
                  "an earlier line\n"_L1 + simulator.lines().join(u'\n') + u'\n');
     }
 
+    // The devices play on, and the loss is named, once.
+    void fullLog()
+    {
+        SimulatorProgram simulator;
+        QVERIFY(simulator.start(playing(tempoDeck, {u"--log"_s, u"/dev/full"_s})));
+        SerialLine console(simulator.endpoint(tempoDeck));
+        QVERIFY(console.send(bytes("80 02 01 80 02 02")));
+        QTRY_COMPARE(console.received(), "OK Play\r\nOK Stop\r\n"_ba);
+        QVERIFY(simulator.stop());
+        const QByteArray error = simulator.errorOutput();
+        QVERIFY2(error.count("tessaly-simulator: /dev/full: No space left on device\n") == 1,
+                 error);
+    }
+
     void playerIds()
     {
         SimulatorProgram simulator;
