@@ -55,8 +55,9 @@ void tst_Run::initTestCase()
     QVERIFY(m_screen.start());
     QVERIFY(QDir(m_folder.path()).mkdir(u"clone"_s));
     // What is committed or would be; the copy has no other file, above all no build.
-    const QString copy = u"git -c safe.directory=\"$1\" -C \"$1\" ls-files -z --cached --others --exclude-standard"
-                         " | (cd \"$1\" && xargs -0 cp --parents --target-directory=\"$2\")"_s;
+    const QString copy
+        = u"git -c safe.directory=\"$1\" -C \"$1\" ls-files -z --cached --others --exclude-standard"
+          " | (cd \"$1\" && xargs -0 cp --parents --target-directory=\"$2\")"_s;
     QCOMPARE(QProcess::execute(u"bash"_s, {u"-o"_s, u"pipefail"_s, u"-ec"_s, copy, u"copy"_s,
                                            QStringLiteral(TESSALY_SOURCE_FOLDER), path(u""_s)}),
              0);
@@ -156,6 +157,16 @@ void tst_Run::simulatedDevices()
         startTimeLimit);
     QVERIFY(read(log).contains("Ready: 15 devices."_L1));
     const QDir ports(path(u"build/dev/run/ports"_s));
+    QCOMPARE(ports.entryList(QDir::System | QDir::NoDotAndDotDot | QDir::AllEntries).size(), 11);
+
+    // A second start takes nothing away from the first.
+    QProcess second;
+    second.setProcessEnvironment(m_run.processEnvironment());
+    second.start(path(u"scripts/run"_s), {});
+    QVERIFY(second.waitForFinished(startTimeLimit));
+    QCOMPARE(second.exitCode(), 1);
+    QCOMPARE(QString::fromUtf8(second.readAllStandardError()).section(u'\n', -2),
+             u"run: it runs already in this folder; end that first\n"_s);
     QCOMPARE(ports.entryList(QDir::System | QDir::NoDotAndDotDot | QDir::AllEntries).size(), 11);
 
     QVERIFY(tool({u"key"_s, u"ctrl+q"_s}));
