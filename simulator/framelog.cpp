@@ -8,7 +8,16 @@
 
 #include <cstdio>
 
+#include <poll.h>
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int readerTimeLimit = 1000; // in ms
+
+} // namespace
 
 FrameLog::FrameLog()
 {
@@ -25,7 +34,7 @@ void FrameLog::write(const QString &line)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
     for (QFile *file : {&m_output, &m_file}) {
-        if (!file->isOpen())
+        if (!file->isOpen() || (file == &m_output && !isReaderReady()))
             continue;
         const bool isOut = file->write(bytes) == bytes.size() && file->flush();
         if (file != &m_file || isOut != m_isFileFailing)
@@ -36,4 +45,12 @@ void FrameLog::write(const QString &line)
                                 << m_file.fileName() << ": "_L1 << m_file.errorString() << '\n';
         }
     }
+}
+
+/// Writing to a full pipe would stop the whole simulation, its end by a signal included.
+bool FrameLog::isReaderReady()
+{
+    pollfd output{.fd = STDOUT_FILENO, .events = POLLOUT, .revents = 0};
+    m_isReaderStill = ::poll(&output, 1, m_isReaderStill ? 0 : readerTimeLimit) == 0;
+    return !m_isReaderStill;
 }

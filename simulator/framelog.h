@@ -8,7 +8,8 @@
 
 /// The lines that the simulator says, on standard output and in a file if there is one. Each line
 /// is out when write() returns. When the file cannot take it, on a full disk, this is said on
-/// standard error, once until lines are written again.
+/// standard error, once until lines are written again. A reader of standard output that stands
+/// still for a second misses the lines until it reads again.
 class FrameLog
 {
 public:
@@ -22,7 +23,10 @@ public:
     void write(const QString &line);
 
 private:
+    bool isReaderReady();
+
     QFile m_output;
     QFile m_file;
     bool m_isFileFailing = false;
+    bool m_isReaderStill = false;
 };

@@ -62,8 +62,10 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     const QCommandLineOption model(
         u"model"_s, u"Play the model of that name. May be given several times."_s, u"NAME"_s);
     const QCommandLineOption all(u"all"_s, u"Play all models at once."_s);
-    const QCommandLineOption id(u"id"_s, u"Answer to that player ID at first, 0 to 127 (0)."_s,
-                                u"N"_s, u"0"_s);
+    const QCommandLineOption id(
+        u"id"_s,
+        u"Answer to that player ID at first, 0 to 127 (0). Network models have ID 0 alone."_s,
+        u"N"_s, u"0"_s);
     const QCommandLineOption address(
         u"address"_s,
         u"Let TCP/IP models listen on that IP address (127.0.0.1). Models that share a port get "
@@ -162,6 +164,10 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     options.faultName = parser.value(fault);
     if (parser.isSet(fault) && !faultNames().contains(options.faultName))
         return failure("There is no fault "_L1 + didYouMean(options.faultName, faultNames()));
+    for (const QCommandLineOption &path : {link, log}) {
+        if (parser.isSet(path) && parser.value(path).isEmpty())
+            return failure(u"--%1 needs a path."_s.arg(path.names().constFirst()));
+    }
     options.linkPath = parser.value(link);
     options.logPath = parser.value(log);
     return options;

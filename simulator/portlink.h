@@ -14,8 +14,8 @@ public:
     ~PortLink();
     Q_DISABLE_COPY_MOVE(PortLink)
 
-    /// Makes the link, or points it somewhere else. A link that an earlier run has left behind is
-    /// replaced.
+    /// Makes the link, or points it somewhere else. A link to a pseudo-terminal that is there
+    /// already is replaced: an earlier run may have left it behind.
     /// \return what is wrong; empty when the link is made
     QString point(const QString &path, const QString &target);
 

@@ -22,7 +22,9 @@ struct Simulator::Device
 {
     Device(const Endpoint &place, int playerId)
         : endpoint(place)
-        , device(place.model, playerId, QDateTime::currentDateTime())
+        , device(place.model,
+                 std::clamp<int>(playerId, place.model.minPlayerId, place.model.maxPlayerId),
+                 QDateTime::currentDateTime())
     {
     }
 
@@ -75,7 +77,10 @@ QString Simulator::startSerial(Device &device)
                                                        : u"%1: %2 (%3)"_s.arg(name, path, port));
         return error;
     };
-    connect(connection, &PtyConnection::pathChanged, this, announce);
+    connect(connection, &PtyConnection::pathChanged, this, [this, announce](const QString &port) {
+        if (const QString error = announce(port); !error.isEmpty())
+            m_log.write(error);
+    });
     converse(device, connection);
     return announce(connection->path());
 }

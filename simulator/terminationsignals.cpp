@@ -32,12 +32,16 @@ TerminationSignals::TerminationSignals()
     });
     std::signal(SIGINT, writeToPipe);
     std::signal(SIGTERM, writeToPipe);
+    // A closed terminal ends the program, too, unless it was started to outlive that.
+    if (std::signal(SIGHUP, writeToPipe) == SIG_IGN)
+        std::signal(SIGHUP, SIG_IGN);
 }
 
 TerminationSignals::~TerminationSignals()
 {
     std::signal(SIGINT, SIG_DFL);
     std::signal(SIGTERM, SIG_DFL);
+    std::signal(SIGHUP, SIG_DFL);
     m_notifier.reset();
     for (int &end : pipeEnds) {
         ::close(end);

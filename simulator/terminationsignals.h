@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// Turns SIGINT and SIGTERM into a Qt signal. One object at a time.
+/// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal. One object at a time.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -35,6 +35,7 @@ private slots:
 
     void visitWithoutDisplay();
     void simulatedDevices();
+    void endedByASignal();
     void hardware();
     void hardwareWithoutDisplay();
 
@@ -177,6 +178,18 @@ void tst_Run::simulatedDevices()
     QVERIFY(!ports.exists());
     QVERIFY(!QFile::exists(m_folder.filePath(u".local"_s)));
     QVERIFY(QFile::exists(path(u"build/dev/run/settings/Ambrette/Tessaly/Tessaly.cfg"_s)));
+}
+
+void tst_Run::endedByASignal()
+{
+    start({}, m_screen.displayName());
+    QTRY_VERIFY_WITH_TIMEOUT(focusWindow(), buildTimeLimit);
+    m_run.terminate();
+    QVERIFY(m_run.waitForFinished(startTimeLimit));
+    m_output = QString::fromUtf8(m_run.readAll());
+    QCOMPARE(m_run.exitCode(), 143);
+    QTRY_VERIFY(!focusWindow());
+    QVERIFY(!QFile::exists(path(u"build/dev/run/ports"_s)));
 }
 
 void tst_Run::hardware()

@@ -20,6 +20,7 @@
 
 #include <errno.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -241,6 +242,36 @@ private slots:
         QVERIFY2(text.contains("--fault <NAME>"), text);
     }
 
+    /// The lines of 1500 frames are more than a pipe holds, and nobody reads them meanwhile.
+    void readerThatStandsStill()
+    {
+        SimulatorProgram simulator;
+        QVERIFY(simulator.start(playing(tempoDeck)));
+        const int port = ::open(QFile::encodeName(simulator.endpoint(tempoDeck)).constData(),
+                                O_RDWR | O_NOCTTY | O_CLOEXEC);
+        QVERIFY(port >= 0);
+        const QByteArray frame = QByteArray::fromHex("80 02 01");
+        const QByteArray answer = "OK Play\r\n";
+        int answered = 0;
+        for (; answered < 1500; ++answered) {
+            QByteArray received;
+            std::array<char, 64> buffer;
+            pollfd readable{.fd = port, .events = POLLIN, .revents = 0};
+            if (::write(port, frame.constData(), 3) != 3)
+                break;
+            while (received.size() < answer.size() && ::poll(&readable, 1, longWait) == 1) {
+                const ssize_t count = ::read(port, buffer.data(), buffer.size());
+                received.append(buffer.data(), std::max<ssize_t>(0, count));
+            }
+            if (received != answer)
+                break;
+        }
+        ::close(port);
+        QCOMPARE(answered, 1500);
+        QVERIFY(simulator.stop());
+        QCOMPARE(simulator.exitCode(), 0);
+    }
+
     void version()
     {
         SimulatorProgram simulator;
@@ -274,6 +305,10 @@ private slots:
             "/dev/null/log: Not a directory");
         row("log file that is a folder", {u"--model"_s, tempoDeck, u"--log"_s, u"/"_s},
             "/: Is a directory");
+        row("link without a path", {u"--model"_s, tempoDeck, u"--link"_s, u""_s},
+            "--link needs a path. Try --help.");
+        row("log without a path", {u"--model"_s, tempoDeck, u"--log"_s, u""_s},
+            "--log needs a path. Try --help.");
         row("nothing to link", {u"--model"_s, lite, u"--link"_s, u"/dev/null/link"_s},
             "None of the models is a serial one, so there is nothing to link.");
         row("link where none can be", {u"--model"_s, tempoDeck, u"--link"_s, u"/dev/null/link"_s},
