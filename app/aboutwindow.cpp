@@ -5,6 +5,7 @@
 
 #include "ui_aboutwindow.h"
 
+#include <QIcon>
 #include <QSysInfo>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,6 +15,9 @@ aboutwindow::aboutwindow(QWidget *parent)
     , m_ui(new Ui_aboutwindow)
 {
     m_ui->setupUi(this);
+    // A pixmap by itself is the picture for unscaled screens.
+    const QIcon logo(u":/Images/Help_Panel_New_Logo.png"_s);
+    m_ui->label->setPixmap(logo.pixmap(m_ui->label->pixmap().size(), devicePixelRatio()));
 }
 
 aboutwindow::~aboutwindow()

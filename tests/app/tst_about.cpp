@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPointer>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QUrl>
@@ -98,6 +99,7 @@ private slots:
     void modal();
     void notResizable();
     void pictures();
+    void picturesOnScaledScreen();
     void okAccepts();
     void otherWaysOutKeepTheDialog_data();
     void otherWaysOutKeepTheDialog();
@@ -301,12 +303,29 @@ void tst_About::pictures()
     QVERIFY(!icon.isNull());
     QCOMPARE(imageOf(dialog->windowIcon()), icon);
 
-    const QPixmap logo(u":/Images/Help_Panel_New_Logo.png"_s);
-    QVERIFY(!logo.isNull());
+    const bool isScaled = qgetenv("QT_SCALE_FACTOR") == "2";
+    QCOMPARE(dialog->devicePixelRatio(), isScaled ? 2.0 : 1.0);
+    const QImage logo(isScaled ? u":/Images/Help_Panel_New_Logo@2x.png"_s
+                               : u":/Images/Help_Panel_New_Logo.png"_s);
     const auto *label = dialog->findChild<QLabel *>(u"label"_s);
-    QCOMPARE(label->pixmap().toImage(), logo.toImage());
+    QCOMPARE(logo.width(), isScaled ? 320 : 160);
+    const QImage shown = label->pixmap().toImage();
+    QCOMPARE(shown, logo.convertToFormat(shown.format()));
     QVERIFY(label->isVisible());
-    QVERIFY(label->width() >= logo.width() && label->height() >= logo.height());
+    QVERIFY(label->width() >= 160 && label->height() >= 160);
+}
+
+void tst_About::picturesOnScaledScreen()
+{
+    // The scale holds for a whole program.
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(), {u"pictures"_s});
+    QVERIFY(program.waitForFinished());
+    QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0,
+             program.readAllStandardOutput().constData());
 }
 
 void tst_About::okAccepts()
