@@ -321,18 +321,29 @@ QString MainWindow::firmwareNote(const QString &firmware)
 
 void MainWindow::reserveFirmwareNoteRoom()
 {
-    QString longest;
-    for (const DeviceModel &model : std::as_const(deviceCatalogue)) {
-        if (model.firmwareVersion.size() > longest.size())
-            longest = model.firmwareVersion;
+    // Panels that another model shows count, too: the column has one width for all.
+    int width = 0;
+    for (const QWidget *widget :
+         std::initializer_list<QWidget *>{m_ui->frame_Port, m_ui->frame_Baudrate, m_ui->frame_IP,
+                                          m_ui->checkBox_Auto_connection}) {
+        width = qMax(width, widget->minimumSizeHint().width());
     }
+    m_ui->frame_Player->setMinimumWidth(width);
+    width = qMax(width, m_ui->frame_Player->minimumSizeHint().width());
     const QFrame *frame = m_ui->frame_Settings;
     const QMargins margins = frame->layout()->contentsMargins();
-    const int width = qMax(frame->minimumWidth(), frame->minimumSizeHint().width())
-                      - 2 * frame->frameWidth() - margins.left() - margins.right();
-    const QRect room = m_ui->label_Comments->fontMetrics().boundingRect(
-        QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(longest));
-    m_ui->label_Comments->setMinimumHeight(room.height());
+    width = qMax(width, frame->minimumWidth() - 2 * frame->frameWidth() - margins.left()
+                            - margins.right());
+
+    int height = 0;
+    for (const DeviceModel &model : std::as_const(deviceCatalogue)) {
+        if (model.firmwareVersion.isEmpty())
+            continue;
+        const QRect room = m_ui->label_Comments->fontMetrics().boundingRect(
+            QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(model.firmwareVersion));
+        height = qMax(height, room.height());
+    }
+    m_ui->label_Comments->setMinimumHeight(height);
 }
 
 void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)
