@@ -3,7 +3,9 @@
 
 #include "ui/consolestyle.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFrame>
 #include <QStyleOptionComboBox>
 
@@ -25,6 +27,20 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *optio
     // The styles leave a pixel free on both sides of the text.
     elided.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideMiddle, room - 2);
     QProxyStyle::drawControl(element, &elided, painter, widget);
+}
+
+QRect ConsoleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                   SubControl subControl, const QWidget *widget) const
+{
+    QRect rectangle = QProxyStyle::subControlRect(control, option, subControl, widget);
+    const auto *list = qobject_cast<const QComboBox *>(widget);
+    if (control == CC_ComboBox && subControl == SC_ComboBoxListBoxPopup && list) {
+        const QAbstractItemView *view = list->view();
+        const int around = 2 * pixelMetric(PM_DefaultFrameWidth, nullptr, view)
+                           + pixelMetric(PM_ScrollBarExtent, nullptr, view);
+        rectangle.setWidth(qMax(rectangle.width(), view->sizeHintForColumn(0) + around));
+    }
+    return rectangle;
 }
 
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

@@ -17,6 +17,9 @@ public:
     /// A list whose current text is longer than the room shows its beginning and its end.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
+    /// The rows of a list are shown in full when it is open.
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                         SubControl subControl, const QWidget *widget) const override;
     /// A panel has no outline: separator lines divide the groups, and captions share one edge.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;

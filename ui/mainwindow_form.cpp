@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 #include "ui/consolestyle.h"
 #include "ui/contentscroller.h"
+#include "ui/fulltexttip.h"
 #include "ui_mainwindow.h"
 
 #include <QFontDatabase>
@@ -22,8 +23,11 @@ void MainWindow::completeForm()
         }
     }
     const QList<QComboBox *> lists = m_ui->centralWidget->findChildren<QComboBox *>();
-    for (QComboBox *list : lists)
+    auto *tips = new FullTextTip(this);
+    for (QComboBox *list : lists) {
         list->setStyle(style);
+        list->installEventFilter(tips);
+    }
     m_ui->label_Comments->setStyle(style);
 
     const QFont fixedWidth = QFontDatabase::systemFont(QFontDatabase::FixedFont);
