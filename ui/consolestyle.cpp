@@ -7,7 +7,31 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>
+#include <QPainter>
 #include <QStyleOptionComboBox>
+
+namespace {
+
+/// The text edit keeps its frame.
+bool isPanel(const QWidget *widget)
+{
+    return qobject_cast<const QFrame *>(widget)
+           && !qobject_cast<const QAbstractScrollArea *>(widget);
+}
+
+void drawFocus(QPainter *painter, const QRect &rectangle, const QPalette &palette)
+{
+    constexpr int dark = 128;
+    const bool isDark = palette.color(QPalette::Window).lightness() < dark;
+    const QColor highlight = palette.color(QPalette::Highlight);
+    painter->save();
+    painter->setPen(isDark ? highlight.lighter(150) : highlight); // in percent
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rectangle.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
+} // namespace
 
 ConsoleStyle::ConsoleStyle()
     : QProxyStyle(QApplication::style()->name())
@@ -20,6 +44,8 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *optio
     const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (element != CE_ComboBoxLabel || !list) {
         QProxyStyle::drawControl(element, option, painter, widget);
+        if (element == CE_ShapedFrame && option->state.testFlag(State_HasFocus))
+            drawFocus(painter, option->rect, option->palette);
         return;
     }
     const int room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget).width();
@@ -27,6 +53,17 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *optio
     // The styles leave a pixel free on both sides of the text.
     elided.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideMiddle, room - 2);
     QProxyStyle::drawControl(element, &elided, painter, widget);
+}
+
+void ConsoleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                      QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_Slider && option->state.testFlag(State_HasFocus)) {
+        const QRect handle = subControlRect(CC_Slider, option, SC_SliderHandle, widget);
+        drawFocus(painter, handle, option->palette);
+        drawFocus(painter, handle.adjusted(1, 1, -1, -1), option->palette);
+    }
 }
 
 QRect ConsoleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
@@ -46,14 +83,16 @@ QRect ConsoleStyle::subControlRect(ComplexControl control, const QStyleOptionCom
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {
-    if (element != PE_Frame)
+    if (element != PE_Frame || !isPanel(widget))
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameFocusRect)
+        drawFocus(painter, option->rect, option->palette);
 }
 
 int ConsoleStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                               const QWidget *widget) const
 {
-    if (metric == PM_DefaultFrameWidth && qobject_cast<const QFrame *>(widget))
+    if (metric == PM_DefaultFrameWidth && isPanel(widget))
         return 0;
     return QProxyStyle::pixelMetric(metric, option, widget);
 }

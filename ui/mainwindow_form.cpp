@@ -28,7 +28,16 @@ void MainWindow::completeForm()
         list->setStyle(style);
         list->installEventFilter(tips);
     }
-    m_ui->label_Comments->setStyle(style);
+    const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->isCheckable())
+            button->setStyle(style);
+    }
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{m_ui->label_Comments, m_ui->horizontalSlider_Volume,
+                                          m_ui->label_Bytes_Sended, m_ui->textEdit_Data}) {
+        widget->setStyle(style);
+    }
 
     const QFont fixedWidth = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_ui->label_Bytes_Sended->setFont(fixedWidth);
