@@ -3,11 +3,11 @@
 
 #include "ui/consolestyle.h"
 
-#include <QAbstractItemView>
+#include <QAbstractScrollArea>
 #include <QApplication>
-#include <QComboBox>
 #include <QFrame>
 #include <QPainter>
+#include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 
 namespace {
@@ -31,6 +31,23 @@ void drawFocus(QPainter *painter, const QRect &rectangle, const QPalette &palett
     painter->restore();
 }
 
+void drawIndicatorOutline(QPainter *painter, const QRect &rectangle, bool isRound,
+                          const QPalette &palette)
+{
+    QColor colour = palette.color(QPalette::WindowText);
+    colour.setAlphaF(0.5F); // more than 3 : 1 to the window, less than the text has
+    painter->save();
+    painter->setPen(colour);
+    painter->setBrush(Qt::NoBrush);
+    if (isRound) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawEllipse(QRectF(rectangle).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        painter->drawRect(rectangle.adjusted(0, 0, -1, -1));
+    }
+    painter->restore();
+}
+
 } // namespace
 
 ConsoleStyle::ConsoleStyle()
@@ -41,6 +58,16 @@ ConsoleStyle::ConsoleStyle()
 void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const
 {
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if ((element == CE_CheckBoxLabel || element == CE_RadioButtonLabel) && button
+        && !button->state.testFlag(State_Enabled)) {
+        // Unlike a label, it shows that it is disabled: drawItemText() takes the active colour.
+        QStyleOptionButton disabled(*button);
+        disabled.palette.setBrush(QPalette::Active, QPalette::WindowText,
+                                  button->palette.brush(QPalette::Disabled, QPalette::WindowText));
+        QProxyStyle::drawControl(element, &disabled, painter, widget);
+        return;
+    }
     const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (element != CE_ComboBoxLabel || !list) {
         QProxyStyle::drawControl(element, option, painter, widget);
@@ -66,25 +93,14 @@ void ConsoleStyle::drawComplexControl(ComplexControl control, const QStyleOption
     }
 }
 
-QRect ConsoleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
-                                   SubControl subControl, const QWidget *widget) const
-{
-    QRect rectangle = QProxyStyle::subControlRect(control, option, subControl, widget);
-    const auto *list = qobject_cast<const QComboBox *>(widget);
-    if (control == CC_ComboBox && subControl == SC_ComboBoxListBoxPopup && list) {
-        const QAbstractItemView *view = list->view();
-        const int around = 2 * pixelMetric(PM_DefaultFrameWidth, nullptr, view)
-                           + pixelMetric(PM_ScrollBarExtent, nullptr, view);
-        rectangle.setWidth(qMax(rectangle.width(), view->sizeHintForColumn(0) + around));
-    }
-    return rectangle;
-}
-
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {
     if (element != PE_Frame || !isPanel(widget))
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isRound = element == PE_IndicatorRadioButton;
+    if ((isRound || element == PE_IndicatorCheckBox) && option->state.testFlag(State_Enabled))
+        drawIndicatorOutline(painter, option->rect, isRound, option->palette);
     if (element == PE_FrameFocusRect)
         drawFocus(painter, option->rect, option->palette);
 }

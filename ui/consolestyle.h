@@ -21,11 +21,9 @@ public:
     /// The handle of a slider shows the keyboard focus.
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
-    /// The rows of a list are shown in full when it is open.
-    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option,
-                         SubControl subControl, const QWidget *widget) const override;
     /// A panel has no outline: separator lines divide the groups, and captions share one edge. What
-    /// has the keyboard focus has one, also on a dark palette.
+    /// has the keyboard focus has one, and so have check boxes and radio buttons, also on a dark
+    /// palette.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
