@@ -94,6 +94,10 @@ public:
     {
         QApplication::setPalette(palette(isDark));
         console = std::make_unique<ConsoleWindow>();
+        // A name longer than its list, as stable names of ports are.
+        auto *ports = console->find<QComboBox>("comboBox_Port");
+        ports->clear();
+        ports->addItem(u"/dev/serial/by-id/usb-FTDI_FT232R_USB_UART_A9087-if00"_s);
         if (!code.isEmpty()) {
             const QString file = u"/LanguageData_%1.qm"_s;
             if (!QFile::copy(QCoreApplication::applicationDirPath() + file.arg(code),
@@ -311,11 +315,12 @@ void Sight::lookAtLists()
             report(list, u"too low for its text"_s);
         const int room = fieldOf(list).width();
         const int current = list->currentIndex();
-        bool hasLongRow = false;
+        int widest = 0;
         for (int row = 0; row < list->count(); ++row) {
-            if (metrics.horizontalAdvance(list->itemText(row)) <= room)
+            const int needed = metrics.horizontalAdvance(list->itemText(row));
+            if (needed <= room)
                 continue;
-            hasLongRow = true;
+            widest = qMax(widest, needed);
             list->setCurrentIndex(row);
             QHelpEvent pause(QEvent::ToolTip, QPoint(5, 5), list->mapToGlobal(QPoint(5, 5)));
             QCoreApplication::sendEvent(list, &pause);
@@ -327,14 +332,13 @@ void Sight::lookAtLists()
             QToolTip::hideText();
         }
         list->setCurrentIndex(current);
-        if (!hasLongRow)
+        if (widest == 0)
             continue;
         list->showPopup();
-        const QAbstractItemView *view = list->view();
-        if (view->sizeHintForColumn(0) > view->viewport()->width()) {
-            report(list, u"its rows need %1, the popup has %2"_s.arg(view->sizeHintForColumn(0))
-                             .arg(view->viewport()->width()));
-        }
+        // The rows have margins besides, and room for a mark.
+        const int popup = list->view()->viewport()->width();
+        if (widest > popup)
+            report(list, u"its rows need %1, the popup has %2"_s.arg(widest).arg(popup));
         list->hidePopup();
     }
 }
@@ -423,8 +427,11 @@ void Sight::lookAtTabOrder()
 void Sight::lookAtTextColours()
 {
     for (const ShownText &shown : std::as_const(m_texts)) {
-        // The note has to be read while its panel is disabled, too.
-        if (!shown.widget->isEnabled() && shown.widget->objectName() != "label_Comments"_L1)
+        // The note has to be read while its panel is disabled, too; the address, on
+        // its white field, may be.
+        const bool isDisabled
+            = !shown.widget->isEnabled() && shown.widget->objectName() != "label_Comments"_L1;
+        if (isDisabled && !isControl(shown.widget))
             continue;
         const QRect place = shown.room.translated(placeOf(shown.widget).topLeft());
         QMap<QRgb, int> counts;
@@ -437,7 +444,11 @@ void Sight::lookAtTextColours()
         double best = 1;
         for (auto it = counts.begin(); it != counts.end(); ++it)
             best = qMax(best, contrast(it.key(), background));
-        if (best < leastTextContrast)
+        if (isDisabled && best >= leastTextContrast
+            && !qobject_cast<const QSpinBox *>(shown.widget)) {
+            report(shown.widget, u"disabled, but looks enabled"_s);
+        }
+        if (!isDisabled && best < leastTextContrast)
             report(shown.widget, u"text with contrast %1"_s.arg(best));
     }
 }
@@ -445,6 +456,26 @@ void Sight::lookAtTextColours()
 void Sight::lookAtPictures()
 {
     for (const QWidget *widget : std::as_const(m_widgets)) {
+        const auto *checkable = qobject_cast<const QAbstractButton *>(widget);
+        if (checkable && checkable->isCheckable() && checkable->isEnabled()) {
+            QStyleOptionButton option;
+            option.initFrom(checkable);
+            const auto element = qobject_cast<const QRadioButton *>(checkable)
+                                     ? QStyle::SE_RadioButtonIndicator
+                                     : QStyle::SE_CheckBoxIndicator;
+            const QRect place = checkable->style()
+                                    ->subElementRect(element, &option, checkable)
+                                    .translated(placeOf(checkable).topLeft());
+            // The outline is met in the middle of the left side.
+            const int y = place.center().y();
+            double found = 1;
+            for (int x = place.left(); x < place.left() + 2; ++x) {
+                found = qMax(found,
+                             contrast(m_picture.pixel(x, y), m_picture.pixel(place.left() - 2, y)));
+            }
+            if (found < leastPictureContrast)
+                report(checkable, u"outline with contrast %1"_s.arg(found));
+        }
         const auto *button = qobject_cast<const QPushButton *>(widget);
         if (!button || !button->isEnabled() || button->icon().isNull())
             continue;
@@ -537,7 +568,6 @@ void tst_Walk::enter(const QString &language, bool isDark, Link link)
     const auto *disconnect = console.find<QPushButton>("pushButton_Disconnect");
     if (link == Link::Open && !disconnect->isEnabled()) {
         console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
-        console.find<QComboBox>("comboBox_Port")->clear();
         console.connectSerial(m_device);
     } else if (link != Link::Open) {
         console.window.on_pushButton_Disconnect_clicked();
@@ -700,8 +730,6 @@ void tst_Walk::focusIsSeen()
     QVERIFY(console.rowOfModel(model) >= 0);
     console.selectModel(console.rowOfModel(model));
     // Everything can be used at once.
-    if (console.find<QComboBox>("comboBox_Port")->count() == 0)
-        console.find<QComboBox>("comboBox_Port")->addItem(u"/dev/ttyS0"_s);
     for (const char *name : {"frame_Settings", "frame_Player", "frame_Port", "frame_Baudrate",
                              "frame_Commands", "pushButton_Connect", "pushButton_Disconnect"}) {
         console.find<QWidget>(name)->setEnabled(true);
