@@ -175,7 +175,7 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
     case CommandId::SourceWebradio:
     case CommandId::SourceAlternate:
         command.number = cursor.takeNumberText();
-        cursor.expect("0"_ba + '\0');
+        cursor.expect("0\0"_ba);
         break;
     default: {
         QByteArray arguments;

@@ -152,7 +152,7 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     const auto isRemote = [](const Endpoint &endpoint) {
         return !endpoint.address.isNull() && !endpoint.address.isLoopback();
     };
-    const auto remote = std::ranges::find_if(options.endpoints, isRemote);
+    const auto remote = std::ranges::find_if(std::as_const(options.endpoints), isRemote);
     if (remote != options.endpoints.cend() && !parser.isSet(allowRemote)) {
         return failure(u"Other computers may reach %1. Add --allow-remote if you want that."_s.arg(
             remote->address.toString()));

@@ -26,6 +26,13 @@ bool isCut(const QComboBox *list)
 
 } // namespace
 
+FullTextTip::FullTextTip(const QList<QComboBox *> &lists, QObject *parent)
+    : QObject(parent)
+{
+    for (QComboBox *list : lists)
+        list->installEventFilter(this);
+}
+
 bool FullTextTip::eventFilter(QObject *watched, QEvent *event)
 {
     auto *list = qobject_cast<QComboBox *>(watched);

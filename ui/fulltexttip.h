@@ -3,16 +3,19 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
 
-/// Puts the current text of a list that has no room for it in front of the list's tool tip. It is
-/// an event filter of lists; the tool tips themselves stay as the form and the language set them.
+class QComboBox;
+
+/// Puts the current text of a list that has no room for it in front of the list's tool tip. The
+/// tool tips themselves stay as the form and the language set them.
 class FullTextTip : public QObject
 {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    FullTextTip(const QList<QComboBox *> &lists, QObject *parent);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 };

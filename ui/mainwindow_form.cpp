@@ -23,11 +23,9 @@ void MainWindow::completeForm()
         }
     }
     const QList<QComboBox *> lists = m_ui->centralWidget->findChildren<QComboBox *>();
-    auto *tips = new FullTextTip(this);
-    for (QComboBox *list : lists) {
+    for (QComboBox *list : lists)
         list->setStyle(style);
-        list->installEventFilter(tips);
-    }
+    new FullTextTip(lists, this);
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {
         if (button->isCheckable())

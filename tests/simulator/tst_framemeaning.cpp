@@ -157,7 +157,7 @@ void tst_FrameMeaning::oneFileForEachModel()
     QStringList actual;
     for (const QString &fileName : QDir(framesFolder).entryList(QDir::Files)) {
         if (fileName != valuesFile)
-            actual.append(column(linesOf(fileName).first(), 0));
+            actual.append(column(linesOf(fileName).constFirst(), 0));
     }
     QStringList expected;
     for (const DeviceModel &model : allModels())
