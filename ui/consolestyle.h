@@ -14,6 +14,7 @@ class ConsoleStyle : public QProxyStyle
 public:
     ConsoleStyle();
 
+    /// A disabled button's picture is grey and can still be made out.
     /// A list whose current text is longer than the room shows its beginning and its end.
     /// A text that takes the keyboard focus shows it.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -28,8 +29,4 @@ public:
                        const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
-    /// A label is as readable in a disabled panel as in an enabled one.
-    void drawItemText(QPainter *painter, const QRect &rectangle, int alignment,
-                      const QPalette &palette, bool enabled, const QString &text,
-                      QPalette::ColorRole textRole) const override;
 };

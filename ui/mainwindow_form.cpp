@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 #include "ui/consolestyle.h"
 #include "ui/contentscroller.h"
+#include "ui/disabledpalette.h"
 #include "ui/fulltexttip.h"
 #include "ui_mainwindow.h"
 
@@ -27,10 +28,8 @@ void MainWindow::completeForm()
         list->setStyle(style);
     new FullTextTip(lists, this);
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
-    for (QAbstractButton *button : buttons) {
-        if (button->isCheckable())
-            button->setStyle(style);
-    }
+    for (QAbstractButton *button : buttons)
+        button->setStyle(style);
     for (QWidget *widget :
          std::initializer_list<QWidget *>{m_ui->label_Comments, m_ui->horizontalSlider_Volume,
                                           m_ui->label_Bytes_Sended, m_ui->textEdit_Data}) {
@@ -49,5 +48,6 @@ void MainWindow::completeForm()
     keepsRoom.setRetainSizeWhenHidden(true);
     m_ui->checkBox_Auto_connection->setSizePolicy(keepsRoom);
 
+    new DisabledPalette(m_ui->centralWidget);
     new ContentScroller(m_ui->centralWidget);
 }

@@ -42,7 +42,8 @@ constexpr int deepestLayout = 12;
 constexpr double leastTextContrast = 4.5;
 constexpr double leastPictureContrast = 3;
 constexpr double clearDifference = 1.5;
-constexpr int leastSpots = 40; // an outline of 10 x 10 pixels; a cursor is less
+constexpr double enabledTextContrast = 8; // what is disabled stays clearly below
+constexpr int leastSpots = 40;            // an outline of 10 x 10 pixels; a cursor is less
 
 enum class Link { Closed, Connecting, Open };
 
@@ -56,7 +57,7 @@ QPalette palette(bool isDark)
     dark.setColor(QPalette::Base, QColor(0x1e, 0x1e, 0x1e));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         dark.setColor(role, QColor(0xef, 0xef, 0xef));
-        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+        dark.setColor(QPalette::Disabled, role, QColor(0x56, 0x56, 0x56));
     }
     dark.setColor(QPalette::Highlight, QColor(42, 110, 165));
     dark.setColor(QPalette::HighlightedText, Qt::white);
@@ -427,12 +428,6 @@ void Sight::lookAtTabOrder()
 void Sight::lookAtTextColours()
 {
     for (const ShownText &shown : std::as_const(m_texts)) {
-        // The note has to be read while its panel is disabled, too; the address, on
-        // its white field, may be.
-        const bool isDisabled
-            = !shown.widget->isEnabled() && shown.widget->objectName() != "label_Comments"_L1;
-        if (isDisabled && !isControl(shown.widget))
-            continue;
         const QRect place = shown.room.translated(placeOf(shown.widget).topLeft());
         QMap<QRgb, int> counts;
         for (int y = place.top(); y <= place.bottom(); ++y) {
@@ -444,12 +439,15 @@ void Sight::lookAtTextColours()
         double best = 1;
         for (auto it = counts.begin(); it != counts.end(); ++it)
             best = qMax(best, contrast(it.key(), background));
-        if (isDisabled && best >= leastTextContrast
-            && !qobject_cast<const QSpinBox *>(shown.widget)) {
-            report(shown.widget, u"disabled, but looks enabled"_s);
-        }
-        if (!isDisabled && best < leastTextContrast)
+        if (best < leastTextContrast)
             report(shown.widget, u"text with contrast %1"_s.arg(best));
+        // Captions and the note are to be read at any time, and so is the address on its field.
+        const bool looksEnabled = best >= enabledTextContrast;
+        if (isControl(shown.widget) && !qobject_cast<const QSpinBox *>(shown.widget)
+            && looksEnabled != shown.widget->isEnabled()) {
+            report(shown.widget,
+                   u"enabled: %1, but contrast %2"_s.arg(shown.widget->isEnabled()).arg(best));
+        }
     }
 }
 
@@ -457,7 +455,7 @@ void Sight::lookAtPictures()
 {
     for (const QWidget *widget : std::as_const(m_widgets)) {
         const auto *checkable = qobject_cast<const QAbstractButton *>(widget);
-        if (checkable && checkable->isCheckable() && checkable->isEnabled()) {
+        if (checkable && checkable->isCheckable()) {
             QStyleOptionButton option;
             option.initFrom(checkable);
             const auto element = qobject_cast<const QRadioButton *>(checkable)
@@ -477,7 +475,7 @@ void Sight::lookAtPictures()
                 report(checkable, u"outline with contrast %1"_s.arg(found));
         }
         const auto *button = qobject_cast<const QPushButton *>(widget);
-        if (!button || !button->isEnabled() || button->icon().isNull())
+        if (!button || button->icon().isNull())
             continue;
         const QRect place = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
                                                 button->iconSize(), placeOf(button));

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "ui/disabledpalette.h"
+
+#include <QEvent>
+#include <QWidget>
+
+namespace {
+
+QColor paler(const QColor &text, const QColor &background)
+{
+    // The thin strokes of letters keep 4.5 : 1 on usual light and dark windows.
+    constexpr float share = 0.65F;
+    const auto mixed = [](float one, float other) { return share * one + (1 - share) * other; };
+    return QColor::fromRgbF(mixed(text.redF(), background.redF()),
+                            mixed(text.greenF(), background.greenF()),
+                            mixed(text.blueF(), background.blueF()));
+}
+
+} // namespace
+
+DisabledPalette::DisabledPalette(QWidget *widget)
+    : QObject(widget)
+    , m_widget(widget)
+{
+    widget->installEventFilter(this);
+    update();
+}
+
+bool DisabledPalette::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        update();
+    return QObject::eventFilter(watched, event);
+}
+
+QPalette DisabledPalette::tones(const QPalette &palette)
+{
+    QPalette result;
+    for (const auto [text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                          std::pair(QPalette::Text, QPalette::Base),
+                                          std::pair(QPalette::ButtonText, QPalette::Button)}) {
+        result.setColor(QPalette::Disabled, text,
+                        paler(palette.color(QPalette::Active, text),
+                              palette.color(QPalette::Active, background)));
+    }
+    return result;
+}
+
+void DisabledPalette::update()
+{
+    const QPalette wanted = tones(m_widget->palette());
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        if (m_widget->palette().color(QPalette::Disabled, role)
+            != wanted.color(QPalette::Disabled, role)) {
+            m_widget->setPalette(wanted);
+            return;
+        }
+    }
+}
