@@ -5,6 +5,8 @@
 #include "app/mainwindow.h"
 
 #include <QApplication>
+#include <QScreen>
+#include <QStyle>
 
 int main(int argc, char *argv[])
 {
@@ -12,6 +14,9 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
 
     MainWindow window;
+    // The window manager adds a title bar; what has no room then is scrolled to.
+    const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    window.resize(window.size().boundedTo(window.screen()->availableSize() - QSize(0, titleBar)));
     window.show();
     return QApplication::exec();
 }

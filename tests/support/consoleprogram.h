@@ -73,6 +73,8 @@ public:
     bool requestClose(const QString &title) const;
 
     static QString title();
+    /// The place of a window on the screen, without what a window manager adds.
+    QRect geometry(const QString &windowTitle = title()) const;
     /// Writes what a window shows, as a picture of that name in the build's "screenshots/<test>".
     bool saveScreenshot(const QString &name, const QString &windowTitle = title()) const;
 
@@ -80,7 +82,6 @@ private:
     /// What xdotool finds the program's shown windows with: all, or those of a title.
     QStringList search(const QString &title = {}) const;
     qsizetype windowCount() const;
-    QRect geometry(const QString &title) const;
     QString difference(const QWidget *twin, const QString &title) const;
 
     QTemporaryDir m_home;
