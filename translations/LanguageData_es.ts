@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>Player ID:</source>
-        <translation>ID reproductor:</translation>
+        <translation>ID:</translation>
     </message>
     <message>
         <source>Change ID:</source>
-        <translation>Cambiar ID:</translation>
+        <translation>Nuevo ID:</translation>
     </message>
     <message>
         <source>Folder N°:</source>

@@ -41,11 +41,11 @@
     </message>
     <message>
         <source>Player ID:</source>
-        <translation>ID reprodutor:</translation>
+        <translation>ID:</translation>
     </message>
     <message>
         <source>Change ID:</source>
-        <translation>Alterar ID:</translation>
+        <translation>Novo ID:</translation>
     </message>
     <message>
         <source>Folder N°:</source>
