@@ -107,8 +107,18 @@ WId findWindow(qint64 processId)
     return process.readAllStandardOutput().trimmed().toULongLong();
 }
 
-/// The window when it has stopped changing; null when that does not happen.
-QImage photograph(qint64 processId)
+/// Plays, makes it less loud and plays a folder, as far as the model can, so that its window shows
+/// the bytes of a command and answers.
+void useModel(qint64 processId)
+{
+    const QString window = QString::number(findWindow(processId));
+    QProcess::execute(u"xdotool"_s, {u"windowfocus"_s, u"--sync"_s, window, u"key"_s,
+                                     u"XF86AudioPlay"_s, u"ctrl+minus"_s, u"ctrl+5"_s});
+}
+
+/// The window when it has changed from what it was before, and then stopped changing; null when
+/// that does not happen.
+QImage photograph(qint64 processId, const QImage &before = {})
 {
     WId window = 0;
     QImage image;
@@ -121,7 +131,7 @@ QImage photograph(qint64 processId)
             const QImage next
                 = QGuiApplication::primaryScreen()->grabWindow(window).toImage().convertToFormat(
                     QImage::Format_RGB32);
-            const bool isSame = !next.isNull() && next == image;
+            const bool isSame = !next.isNull() && next == image && next != before;
             image = next;
             QTest::qWait(100);
             return isSame;
@@ -174,7 +184,11 @@ QImage Photographer::take(const DeviceModel &model, const Look &look)
     program.setWorkingDirectory(path);
     program.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     program.start(path + "/tessaly"_L1);
-    const QImage image = photograph(program.processId());
+    QImage image = photograph(program.processId());
+    if (look.isConnected && !image.isNull()) {
+        useModel(program.processId());
+        image = photograph(program.processId(), image);
+    }
     program.kill();
     program.waitForFinished();
     return image.size() == windowSize * look.scale ? image : QImage();
