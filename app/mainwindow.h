@@ -12,6 +12,7 @@
 struct CommandEntry;
 struct DeviceModel;
 class QSpinBox;
+class ReceivedTextDisplay;
 class Ui_MainWindow;
 
 /// The console's only window. It holds every slot and hands the widgets' values to the functions
@@ -172,6 +173,7 @@ private:
     void sendFixedCommand(quint32 commandId);
     void sendUnlessEmpty(quint8 code, const QByteArray &body);
     void showReceivedData(const QByteArray &bytes);
+    ReceivedTextDisplay *receivedTextDisplay() const;
 
     static QString firmwareNote(const QString &firmware);
     /// Makes room for the longest note, so that nothing below it moves with the model.

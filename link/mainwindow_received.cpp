@@ -4,9 +4,9 @@
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
 #include "link/receivedbytestext.h"
+#include "link/receivedtextdisplay.h"
 #include "ui_mainwindow.h"
 
-#include <QScrollBar>
 #include <QSerialPort>
 #include <QTcpSocket>
 
@@ -41,9 +41,7 @@ void MainWindow::showReceivedData(const QByteArray &bytes)
     if (bytes.isEmpty())
         return;
     appendReceivedData(bytes, receivedText);
-    m_ui->textEdit_Data->setText(receivedText);
-    QScrollBar *scrollBar = m_ui->textEdit_Data->verticalScrollBar();
-    scrollBar->setValue(scrollBar->maximum());
+    receivedTextDisplay()->handleArrival();
 }
 
 void MainWindow::appendReceivedData(const QByteArray &bytes, QString &text)
@@ -58,6 +56,11 @@ void MainWindow::appendReceivedData(const QByteArray &bytes, QString &text)
 
 void MainWindow::on_pushButton_Clear_clicked()
 {
-    m_ui->textEdit_Data->clear();
     receivedText.clear();
+    receivedTextDisplay()->clear();
+}
+
+ReceivedTextDisplay *MainWindow::receivedTextDisplay() const
+{
+    return m_ui->textEdit_Data->findChild<ReceivedTextDisplay *>();
 }

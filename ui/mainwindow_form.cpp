@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "link/receivedtextdisplay.h"
 #include "ui/consolestyle.h"
 #include "ui/contentscroller.h"
 #include "ui/disabledpalette.h"
@@ -39,6 +41,7 @@ void MainWindow::completeForm()
     const QFont fixedWidth = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_ui->label_Bytes_Sended->setFont(fixedWidth);
     m_ui->textEdit_Data->setFont(fixedWidth);
+    new ReceivedTextDisplay(m_ui->textEdit_Data, &receivedText, m_ui->textEdit_Data);
 
     // Nothing below moves when another model has the other kind of link, or no check box.
     m_ui->frame_IP->setMinimumHeight(m_ui->frame_Port->sizeHint().height()

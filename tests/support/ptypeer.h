@@ -14,6 +14,7 @@ public:
     ~PtyPeer();
     Q_DISABLE_COPY_MOVE(PtyPeer)
 
+    int handle() const { return m_master; }
     /// What the console opens as its serial port.
     QString portName() const { return m_portName; }
 

@@ -25,6 +25,11 @@ bool TcpPeer::isConnected() const
     return m_socket && m_socket->state() == QAbstractSocket::ConnectedState;
 }
 
+int TcpPeer::handle() const
+{
+    return static_cast<int>(m_socket->socketDescriptor());
+}
+
 void TcpPeer::send(const QByteArray &bytes)
 {
     m_socket->write(bytes);

@@ -28,6 +28,9 @@ public:
     /// Whether a connection is open at present.
     bool isConnected() const;
 
+    /// Of the present connection.
+    int handle() const;
+
     /// Everything that the console has sent since the last takeReceived().
     QByteArray received() const { return m_received; }
     QByteArray takeReceived() { return std::exchange(m_received, {}); }

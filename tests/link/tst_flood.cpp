@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "app/applicationobjects.h"
+#include "attentionmeter.h"
+#include "tests/support/consolewindow.h"
+#include "tests/support/ptypeer.h"
+#include "tests/support/tcppeer.h"
+#include "tests/support/testmain.h"
+#include "tirelesssender.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTextEdit>
+
+using namespace std::chrono_literals;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr quint16 tcpModelPort = 65079;
+constexpr int bytesPerSecond = 11'520; ///< of a serial line at 115200 baud
+constexpr auto patience = 120s;        ///< reached only by what fails
+
+enum class Link { Serial, Tcp };
+
+/// The window, connected to a device that floods it.
+class Flood : public ConsoleWindow
+{
+public:
+    Flood(Link link, const QByteArray &form)
+        : m_link(link)
+    {
+        if (link == Link::Serial) {
+            selectModel(rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
+            connectSerial(m_serialPeer);
+        } else {
+            selectModel(rowOfModel(u"Vistar Show - SV500 (TCP/IP)"_s));
+            if (!connectTcp() || !QTest::qWaitFor([this] { return m_tcpPeer.isConnected(); }))
+                qFatal("no connection");
+        }
+        find<QRadioButton>(form.constData())->setChecked(true);
+    }
+
+    int deviceHandle() const
+    {
+        return m_link == Link::Serial ? m_serialPeer.handle() : m_tcpPeer.handle();
+    }
+    QByteArray sentToDevice()
+    {
+        return m_link == Link::Serial ? m_serialPeer.received() : m_tcpPeer.received();
+    }
+
+    QTextEdit *editor() const { return find<QTextEdit>("textEdit_Data"); }
+    QString shown() const { return editor()->toPlainText(); }
+    qsizetype shownSize() const { return editor()->document()->characterCount() - 1; }
+
+    bool send(const QByteArray &bytes)
+    {
+        if (m_link == Link::Serial)
+            return m_serialPeer.send(bytes);
+        m_tcpPeer.send(bytes);
+        return true;
+    }
+
+    PtyPeer m_serialPeer;
+    TcpPeer m_tcpPeer{tcpModelPort};
+
+private:
+    Link m_link;
+};
+
+template<typename Condition>
+bool comesTrue(Condition condition)
+{
+    return QTest::qWaitFor(condition, int(std::chrono::milliseconds(patience).count()));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Link)
+
+class tst_Flood : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void leavesTheWindowToItsUser_data();
+    void leavesTheWindowToItsUser();
+    void isShownAsSetTextShowsIt_data();
+    void isShownAsSetTextShowsIt();
+    void canBeCleared();
+};
+
+void tst_Flood::leavesTheWindowToItsUser_data()
+{
+    QTest::addColumn<Link>("link");
+    QTest::addColumn<QByteArray>("form");
+    QTest::addColumn<int>("byteRate");
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<QString>("sixteenBytes");
+
+    struct Row
+    {
+        const char *name;
+        const char *form;
+        QString sixteenBytes;
+    };
+    const Row rows[] = {
+        {"ASCII", "radioButton_Data_ASCII", u"0123456789:;=?@\n"_s},
+        {"hexadecimal", "radioButton_Data_Hex",
+         u" 30 31 32 33 34 35 36 37 38 39 3A 3B 3D 3F 40 0A"_s},
+        {"decimal", "radioButton_Data_Dec", u" 48 49 50 51 52 53 54 55 56 57 58 59 61 63 64 10"_s},
+    };
+    for (const Row &row : rows) {
+        QTest::addRow("serial, a minute's bytes at once, %s", row.name)
+            << Link::Serial << QByteArray(row.form) << 0 << 60 << row.sixteenBytes;
+        QTest::addRow("serial, four seconds at 115200 baud, %s", row.name)
+            << Link::Serial << QByteArray(row.form) << bytesPerSecond << 4 << row.sixteenBytes;
+    }
+    QTest::newRow("TCP/IP, a minute's bytes at once, hexadecimal")
+        << Link::Tcp << QByteArray(rows[1].form) << 0 << 60 << rows[1].sixteenBytes;
+}
+
+void tst_Flood::leavesTheWindowToItsUser()
+{
+    QFETCH(const Link, link);
+    QFETCH(const QByteArray, form);
+    QFETCH(const int, byteRate);
+    QFETCH(const int, seconds);
+    QFETCH(const QString, sixteenBytes);
+    const int count = seconds * bytesPerSecond / 16;
+    const QString expected = sixteenBytes.repeated(count);
+
+    Flood flood(link, form);
+    const AttentionMeter attention;
+    const TirelessSender device(flood.deviceHandle(), "0123456789:;=?@\n"_ba.repeated(count),
+                                byteRate);
+    // Its user works on meanwhile.
+    QVERIFY(comesTrue([&] { return device.sentCount() > 16 * count / 2; }));
+    flood.click("pushButton_Play");
+    QCOMPARE(flood.text("label_Bytes_Sended"), u"80 02 01"_s);
+    QVERIFY(comesTrue([&] { return flood.sentToDevice() == "\x80\x02\x01"_ba; }));
+
+    QVERIFY(comesTrue([&] { return receivedText.size() == expected.size(); }));
+    QVERIFY(receivedText == expected);
+    QVERIFY(comesTrue([&] { return flood.shownSize() == expected.size(); }));
+    QVERIFY(flood.shown() == expected);
+    const QScrollBar *bar = flood.editor()->verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+
+    // The time for which another byte has to wait belongs to the flood.
+    QVERIFY(flood.send("\n"_ba));
+    QVERIFY(comesTrue([&] { return flood.shownSize() > expected.size(); }));
+    const int ticks = attention.tickCount();
+    QTRY_VERIFY(attention.tickCount() > ticks);
+    qInfo("the user has %.0f %% of the time, and waits for %d ms at most", 100 * attention.share(),
+          int(attention.longestAbsence().count()));
+    QVERIFY2(attention.share() >= 0.5, qPrintable(QString::number(attention.share())));
+
+    flood.click("pushButton_Clear");
+    QCOMPARE(receivedText, QString());
+    QCOMPARE(flood.shown(), QString());
+}
+
+void tst_Flood::isShownAsSetTextShowsIt_data()
+{
+    QTest::addColumn<QByteArray>("form");
+    QTest::addColumn<QByteArray>("bytes");
+
+    const QByteArray ascii = "radioButton_Data_ASCII"_ba;
+    QTest::newRow("lines") << ascii << "Volume: 64\r\nFolder: 001\r\n"_ba.repeated(4000);
+    QTest::newRow("one line") << ascii << "0123456789 "_ba.repeated(9000);
+    QTest::newRow("any bytes") << ascii
+                               << "\x00\xFF\xC3\xA9\t\x07&lt;\xE2\x80\xA8"_ba.repeated(4000);
+    QTest::newRow("markup from the first line on")
+        << ascii << "<b>Volume</b>: 64<br>\n<i>Folder</i>: 001\r\n"_ba.repeated(2000);
+    QTest::newRow("markup that comes late")
+        << ascii << "\n"_ba + "Volume: 64 < 65 "_ba.repeated(5000) + "<b>end</b>"_ba;
+    QTest::newRow("hexadecimal") << "radioButton_Data_Hex"_ba
+                                 << "Volume: 64\r\n"_ba.repeated(4000);
+    QTest::newRow("decimal") << "radioButton_Data_Dec"_ba
+                             << "Volume: 64\r\n"_ba.repeated(4000);
+}
+
+void tst_Flood::isShownAsSetTextShowsIt()
+{
+    QFETCH(const QByteArray, form);
+    QFETCH(const QByteArray, bytes);
+    Flood flood(Link::Serial, form);
+    {
+        const TirelessSender device(flood.deviceHandle(), bytes);
+        QVERIFY(comesTrue([&] { return device.isDone(); }));
+    }
+    // What comes last does so after a while, as an arrival of its own.
+    QVERIFY(flood.m_serialPeer.send("END"_ba));
+    const QString end = form == "radioButton_Data_ASCII" ? u"END"_s
+                        : form == "radioButton_Data_Hex" ? u" 45 4E 44"_s
+                                                         : u" 69 78 68"_s;
+    QVERIFY(comesTrue([&] { return receivedText.endsWith(end); }));
+    QVERIFY(comesTrue([&] { return flood.shown().endsWith(end); }));
+
+    QTextEdit plain;
+    plain.setFont(flood.editor()->font());
+    plain.setText(receivedText);
+    QVERIFY(flood.shown() == plain.toPlainText());
+    QVERIFY(flood.editor()->toHtml() == plain.toHtml());
+}
+
+void tst_Flood::canBeCleared()
+{
+    const QByteArray line = "0123456789:;=?@\n"_ba;
+    const int count = 12'000;
+    Flood flood(Link::Serial, "radioButton_Data_Hex"_ba);
+    const TirelessSender device(flood.deviceHandle(), line.repeated(count));
+    for (int i = 0; i < 3; ++i) {
+        // The editor is behind: a showing is due.
+        QVERIFY(comesTrue([&] {
+            return receivedText.size() > 100'000 && flood.shownSize() < receivedText.size();
+        }));
+        flood.click("pushButton_Clear");
+        QCOMPARE(receivedText, QString());
+        QCOMPARE(flood.shown(), QString());
+    }
+
+    QVERIFY(comesTrue([&] { return device.isDone(); }));
+    QVERIFY(flood.m_serialPeer.send("\xFF"_ba));
+    QVERIFY(comesTrue([&] { return flood.shown().endsWith(u" FF"_s); }));
+    // No byte comes back, and none is lost behind the last Clear.
+    const QString all
+        = u" 30 31 32 33 34 35 36 37 38 39 3A 3B 3D 3F 40 0A"_s.repeated(count) + u" FF"_s;
+    QVERIFY(receivedText.size() < all.size() - 300'000);
+    QVERIFY(flood.shown() == all.last(flood.shown().size()));
+    QVERIFY(flood.shown() == receivedText);
+}
+
+TESSALY_TEST_MAIN(tst_Flood)
+#include "tst_flood.moc"
