@@ -4,6 +4,7 @@
 #include "app/aboutwindow.h"
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "app/translationfile.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
@@ -29,7 +30,8 @@ void MainWindow::applyLanguage()
     const QString languageCode = name.section(u'_', 0, 0);
 
     QCoreApplication::removeTranslator(translator);
-    if (translator->load(languageFilePrefix + languageCode))
+    if (translator->load(languageFilePrefix + languageCode)
+        && isSoundTranslationFile(translator->filePath()))
         QCoreApplication::installTranslator(translator);
 
     m_ui->retranslateUi(this);
