@@ -16,6 +16,10 @@ enum class LanguageChoice { Default, English, French };
 enum class SentForm { Hex, Dec };
 enum class DataForm { Ascii, Hex, Dec };
 
+/// Bytes of a configuration file that are read; what stands behind them counts as missing. The
+/// files that the program writes have less than 1 KiB, and this much is still read in no time.
+constexpr qint64 configSizeLimit = 4 << 20;
+
 /// What the window saves. An empty text or option is written as the placeholder "(default)".
 struct SavedSettings
 {

@@ -8,9 +8,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,6 +24,13 @@ QString pathBesideProgram()
 {
     return QDir(QCoreApplication::applicationDirPath())
         .absoluteFilePath(QCoreApplication::applicationName() + configFileSuffix);
+}
+
+/// Opening such a file for writing waits for a reader, for ever if there is none.
+bool isNamedPipe(const QString &path)
+{
+    std::error_code error; // a file that is not there is none
+    return std::filesystem::is_fifo(QFileInfo(path).filesystemFilePath(), error);
 }
 
 /// Makes the row of exactly that text current, if the list has one.
@@ -42,6 +52,8 @@ void MainWindow::saveConfig(QString path)
 
     // The two traces are deliberate. At the program's end, nobody sees them any more.
     m_ui->textEdit_Data->append(path + "(before save)"_L1);
+    if (isNamedPipe(path))
+        return;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return;
@@ -81,10 +93,14 @@ void MainWindow::loadConfig(QString path)
     if (path.isEmpty())
         path = pathBesideProgram();
 
+    // The start waits for nobody who may or may not write into a pipe or a terminal.
+    if (!QFileInfo(path).isFile())
+        return;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
-    QTextStream stream(&file);
+    const QByteArray bytes = file.read(configSizeLimit);
+    QTextStream stream(bytes);
     if (!isConfigHead(stream.readLine()))
         return;
     stream.readLine(); // title

@@ -13,6 +13,8 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -150,6 +152,8 @@ private slots:
     void fileMenu();
     void untouchedTwice();
     void fileOfAnotherProgram();
+    void pipeInPlaceOfTheFile();
+    void fileWithoutEnd();
 
 private:
     QString path() const;
@@ -383,6 +387,28 @@ void tst_restart::fileOfAnotherProgram()
 {
     QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
     QVERIFY(write(path(), "TSY12.00\n" + QByteArray(100'000, '\xFF')));
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    endProgram();
+    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(read(path())).value(8))));
+}
+
+void tst_restart::pipeInPlaceOfTheFile()
+{
+    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
+    QCOMPARE(::mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    startProgram();
+    if (QTest::currentTestFailed())
+        return;
+    endProgram();
+}
+
+void tst_restart::fileWithoutEnd()
+{
+    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
+    QVERIFY(write(path(), "TSY11.00\n"));
+    QVERIFY(QFile::resize(path(), qint64(8) << 30)); // zeros that take no room on the disk
     startProgram();
     if (QTest::currentTestFailed())
         return;
