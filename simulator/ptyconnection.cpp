@@ -79,7 +79,9 @@ void PtyConnection::send(const QByteArray &bytes)
     if (m_plugTimer.isActive() || m_unsent.size() + bytes.size() > mostQueuedBytes)
         return;
     m_unsent += bytes;
-    writeMaster();
+    // A line that is full says itself when it takes more.
+    if (!m_writeNotifier->isEnabled())
+        writeMaster();
 }
 
 void PtyConnection::hangUp()
