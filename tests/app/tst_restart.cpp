@@ -244,7 +244,7 @@ void tst_restart::startProgram()
     const QString bin = QCoreApplication::applicationDirPath();
     m_program.setProcessEnvironment(m_environment);
     m_program.setWorkingDirectory(bin);
-    m_program.setProcessChannelMode(QProcess::ForwardedOutputChannel);
+    m_program.setProcessChannelMode(QProcess::ForwardedChannels);
     m_program.start(bin + u"/tessaly"_s, QStringList());
     QVERIFY2(m_program.waitForStarted(patience), qPrintable(m_program.errorString()));
 }

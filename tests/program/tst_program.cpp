@@ -184,7 +184,9 @@ void tst_Program::unknownSerialPort()
     QTRY_VERIFY(!program.hasWindow(title));
     QVERIFY(program.looksAsExpected());
     QVERIFY(program.saveScreenshot(u"after-serial-port-error"_s));
-    QVERIFY(program.isRunning());
+    QVERIFY(program.focus(ConsoleProgram::title()));
+    QVERIFY(program.press({u"ctrl+q"_s}));
+    QVERIFY(program.endsWell());
 }
 
 void tst_Program::closeByWindowManager()

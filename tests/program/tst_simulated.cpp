@@ -21,8 +21,8 @@ namespace {
 // In ms.
 constexpr int responseLimit = 5000; // what a user still takes for an answer to a click
 constexpr int showLimit = 20'000;   // this one and the next are reached only by what fails
-constexpr int floodLimit = 120'000;
-constexpr int outage = 3000; // of a device that refuses
+constexpr int floodLimit = 240'000; // below the five minutes that Qt gives a test
+constexpr int outage = 3000;        // of a device that refuses
 constexpr int tolerance = 500;
 
 /// A move of the user and what becomes of it at the other end.

@@ -33,7 +33,7 @@ const QString tempoDeck = u"Tempo Deck"_s;
 const QString vistarShowTcp = u"Vistar Show - SV500 (TCP/IP)"_s;
 const QString lite = u"Sonet A Lite (TCP/IP)"_s;
 
-constexpr int longWait = 20'000; // in ms
+constexpr int longWait = 120'000; // in ms; reached only by what fails
 
 /// Three seconds, as coarse as Qt's timers are.
 constexpr int shortestOutage = 2'850; // in ms
@@ -1099,8 +1099,9 @@ private slots:
         QVERIFY(other->send(bytes("80 02 01")));
         QTRY_VERIFY2_WITH_TIMEOUT(other->received().startsWith("OK Play\r\n"),
                                   hex(other->received()).constData(), longWait);
-        // All requests are answered or given up before the memory is looked at.
-        QTRY_COMPARE_WITH_TIMEOUT(simulator.lines().size(), said + requests + 1, 60'000);
+        // All requests are answered or given up before the memory is looked at. On a busy machine a
+        // frame may come in two parts, with so much time in between that each is a line.
+        QTRY_VERIFY_WITH_TIMEOUT(simulator.lines().size() > said + requests, longWait);
         const int most = statusValue(simulator.processId(), "VmHWM");
         QVERIFY2(most - before < 64 * 1'024,
                  qPrintable(u"%1 kB at first, %2 kB at most"_s.arg(before).arg(most)));

@@ -115,10 +115,16 @@ ConsoleProgram::ConsoleProgram(const QString &extraPorts)
 
 ConsoleProgram::~ConsoleProgram()
 {
-    if (!isRunning())
-        return;
-    m_process.kill();
-    m_process.waitForFinished();
+    if (isRunning()) {
+        m_process.kill();
+        m_process.waitForFinished();
+    } else if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0) {
+        // It has crashed, or a sanitizer has ended it, where the test did not look. Not every
+        // program with a console is a test.
+        qWarning("the console did not end well");
+        if (QTest::currentTestFunction())
+            QTest::qFail("the console did not end well", __FILE__, __LINE__);
+    }
 }
 
 bool ConsoleProgram::start()

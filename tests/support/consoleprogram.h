@@ -26,6 +26,7 @@ class ConsoleProgram
 public:
     /// \a extraPorts serial ports to offer besides the platform's, separated by ':'
     explicit ConsoleProgram(const QString &extraPorts);
+    /// Ends the program if it still runs. Fails the test if it has not ended well by itself.
     ~ConsoleProgram();
     Q_DISABLE_COPY_MOVE(ConsoleProgram)
 

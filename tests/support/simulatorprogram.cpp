@@ -28,6 +28,12 @@ SimulatorProgram::~SimulatorProgram()
     if (isRunning() && !stop())
         m_process.kill();
     m_process.waitForFinished();
+    if (!m_isStarted || (m_process.exitStatus() == QProcess::NormalExit && exitCode() == 0))
+        return;
+    qWarning().noquote() << "the simulator did not end well:" << errorOutput();
+    // Not every program with a simulator is a test.
+    if (QTest::currentTestFunction())
+        QTest::qFail("the simulator did not end well", __FILE__, __LINE__);
 }
 
 bool SimulatorProgram::start(const QStringList &arguments)
@@ -40,7 +46,8 @@ bool SimulatorProgram::start(const QStringList &arguments)
             return !isRunning() || (!m_lines.isEmpty() && m_lines.last().startsWith("Ready"_L1));
         },
         timeLimit);
-    return isReady && isRunning();
+    m_isStarted = isReady && isRunning();
+    return m_isStarted;
 }
 
 bool SimulatorProgram::runToEnd(const QStringList &arguments)

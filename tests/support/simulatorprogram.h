@@ -11,7 +11,8 @@ class SimulatorProgram
 {
 public:
     SimulatorProgram();
-    /// Ends the simulator if it still runs.
+    /// Ends the simulator if it still runs. Fails the test if one that had started has not ended
+    /// with exit code 0, for a crash and for what a sanitizer finds at the end.
     ~SimulatorProgram();
     Q_DISABLE_COPY_MOVE(SimulatorProgram)
 
@@ -46,6 +47,7 @@ private:
     void readLines();
 
     QProcess m_process;
+    bool m_isStarted = false;
     QByteArray m_output;
     QStringList m_lines;
     qsizetype m_firstFrame = 0;
