@@ -38,9 +38,9 @@ bool DisabledPalette::eventFilter(QObject *watched, QEvent *event)
 QPalette DisabledPalette::tones(const QPalette &palette)
 {
     QPalette result;
-    for (const auto [text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
-                                          std::pair(QPalette::Text, QPalette::Base),
-                                          std::pair(QPalette::ButtonText, QPalette::Button)}) {
+    for (const auto &[text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                           std::pair(QPalette::Text, QPalette::Base),
+                                           std::pair(QPalette::ButtonText, QPalette::Button)}) {
         result.setColor(QPalette::Disabled, text,
                         paler(palette.color(QPalette::Active, text),
                               palette.color(QPalette::Active, background)));
