@@ -13,7 +13,11 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTcpSocket>
 #include <QTextEdit>
+
+#include <algorithm>
+#include <thread>
 
 using namespace std::chrono_literals;
 using namespace Qt::Literals::StringLiterals;
@@ -23,6 +27,8 @@ namespace {
 constexpr quint16 tcpModelPort = 65079;
 constexpr int bytesPerSecond = 11'520; ///< of a serial line at 115200 baud
 constexpr auto patience = 120s;        ///< reached only by what fails
+
+constexpr auto pieceTime = 50ms; ///< the sender does not need it for its next piece
 
 enum class Link { Serial, Tcp };
 
@@ -92,6 +98,7 @@ private slots:
     void isShownAsSetTextShowsIt_data();
     void isShownAsSetTextShowsIt();
     void canBeCleared();
+    void fastNetworkDeviceIsReadInPieces();
 };
 
 void tst_Flood::leavesTheWindowToItsUser_data()
@@ -235,6 +242,30 @@ void tst_Flood::canBeCleared()
     QVERIFY(receivedText.size() < all.size() - 300'000);
     QVERIFY(flood.shown() == all.last(flood.shown().size()));
     QVERIFY(flood.shown() == receivedText);
+}
+
+void tst_Flood::fastNetworkDeviceIsReadInPieces()
+{
+    const QByteArray line = "0123456789:;=?@\n"_ba;
+    const int count = 60'000;
+    Flood flood(Link::Tcp, "radioButton_Data_ASCII"_ba);
+    qsizetype longestArrival = 0;
+    qsizetype before = 0;
+    const QObject scope;
+    connect(tcpSocket, &QTcpSocket::readyRead, &scope, [&] {
+        longestArrival = std::max(longestArrival, receivedText.size() - before);
+        before = receivedText.size();
+    });
+    const TirelessSender device(flood.deviceHandle(), line.repeated(count));
+    // The window has no turn before the system's buffers are full or hold all of it.
+    qsizetype sent = -1;
+    while (std::exchange(sent, device.sentCount()) != device.sentCount() || sent == 0)
+        std::this_thread::sleep_for(pieceTime);
+
+    QVERIFY(sent > 200'000);
+    QVERIFY(comesTrue([&] { return receivedText.size() == 16 * count; }));
+    QVERIFY2(longestArrival <= 65'536, qPrintable(QString::number(longestArrival)));
+    QVERIFY(receivedText == QString::fromLatin1(line).repeated(count));
 }
 
 TESSALY_TEST_MAIN(tst_Flood)
