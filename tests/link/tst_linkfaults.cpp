@@ -86,7 +86,7 @@ bool anyLinkIsOpen()
 qint64 usedMemory()
 {
     const struct mallinfo2 info = ::mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 }
 
 int openFileCount()
@@ -369,7 +369,7 @@ void sendManyCommands(Console &console)
     QVERIFY(link.bytesToWrite() <= manyCommands * play.size());
     QVERIFY(link.bytesToWrite() > 0);
     const qint64 grown = usedMemory() - memoryBefore;
-    QVERIFY2(grown < 256 * 1024, qPrintable(QString::number(grown)));
+    QVERIFY2(grown < 262'144, qPrintable(QString::number(grown)));
     QVERIFY2(attention.longestAbsence() < 500ms,
              qPrintable(QString::number(attention.longestAbsence().count())));
     QVERIFY(console.looksConnected());
