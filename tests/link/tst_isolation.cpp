@@ -186,8 +186,9 @@ void tst_Isolation::namesInReceivedTextAreNotFollowed()
     takeContacts();
     folder.takeOpened();
 
-    for (const QString &name : {"http://"_L1 + host + "/named.png"_L1, "//"_L1 + host + "/named"_L1,
-                                "file://"_L1 + folder.path(), folder.path(), folder.fileName()}) {
+    for (const QString &name :
+         {"http://"_L1 + host + "/named.png"_L1, "//"_L1 + host + "/named"_L1,
+          "file://"_L1 + folder.path(), folder.path(), WatchedFolder::fileName()}) {
         const QString text = markup.arg(name);
         console.click("pushButton_Clear");
         QVERIFY(peer.send(text.toUtf8()));
@@ -263,7 +264,7 @@ void tst_Isolation::onlyTheChosenDeviceIsContacted()
     QCOMPARE(takeContacts(), QStringList());
     for (int i = 1; i <= 3; ++i) {
         console.click("pushButton_Play");
-        QTRY_COMPARE(onDemandPeer.received().size(), 19 * i);
+        QTRY_COMPARE(onDemandPeer.received().size(), qsizetype(19) * i);
         QCOMPARE(takeContacts(), QStringList(address + u":1234"_s));
         onDemandPeer.hangUp();
         QTRY_VERIFY(!tcpSocket->isOpen());
