@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionSpinBox>
 
 namespace {
 
@@ -109,12 +110,33 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *optio
 void ConsoleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                       QPainter *painter, const QWidget *widget) const
 {
+    if (const auto *box = qstyleoption_cast<const QStyleOptionSpinBox *>(option)) {
+        QStyleOptionSpinBox known(*box);
+        known.palette = knownPalette(box->palette);
+        QProxyStyle::drawComplexControl(control, &known, painter, widget);
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_Slider && option->state.testFlag(State_HasFocus)) {
         const QRect handle = subControlRect(CC_Slider, option, SC_SliderHandle, widget);
         drawFocus(painter, handle, option->palette);
         drawFocus(painter, handle.adjusted(1, 1, -1, -1), option->palette);
     }
+}
+
+QPalette ConsoleStyle::knownPalette(const QPalette &palette) const
+{
+    constexpr qsizetype most = 16;
+    qsizetype place = m_palettes.indexOf(palette);
+    if (place < 0) {
+        if (m_palettes.size() == most)
+            m_palettes.clear();
+        place = m_palettes.size();
+        m_palettes.append(palette);
+    }
+    QPalette known = m_palettes.at(place);
+    known.setCurrentColorGroup(palette.currentColorGroup());
+    return known;
 }
 
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QList>
+#include <QPalette>
 #include <QProxyStyle>
 
 /// The application's style with what this window's parts want otherwise. It is set on single
@@ -19,7 +21,9 @@ public:
     /// A text that takes the keyboard focus shows it.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
-    /// The handle of a slider shows the keyboard focus.
+    /// The handle of a slider shows the keyboard focus. A spin box looks as ever, but is drawn with
+    /// a palette of which there is one only. Qt keeps a picture for each palette that it meets, and
+    /// below a style sheet it meets another one, with the same colours, each time.
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
     /// A panel has no outline: separator lines divide the groups, and captions share one edge. What
@@ -29,4 +33,10 @@ public:
                        const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
+
+private:
+    /// The first palette of these colours; it and its copies share their identity.
+    QPalette knownPalette(const QPalette &palette) const;
+
+    mutable QList<QPalette> m_palettes;
 };

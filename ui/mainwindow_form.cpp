@@ -32,9 +32,10 @@ void MainWindow::completeForm()
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons)
         button->setStyle(style);
-    for (QWidget *widget :
-         std::initializer_list<QWidget *>{m_ui->label_Comments, m_ui->horizontalSlider_Volume,
-                                          m_ui->label_Bytes_Sended, m_ui->textEdit_Data}) {
+    for (QWidget *widget : std::initializer_list<QWidget *>{
+             m_ui->label_Comments, m_ui->horizontalSlider_Volume, m_ui->label_Bytes_Sended,
+             m_ui->textEdit_Data, m_ui->spinBox_IP_1, m_ui->spinBox_IP_2, m_ui->spinBox_IP_3,
+             m_ui->spinBox_IP_4}) {
         widget->setStyle(style);
     }
 
