@@ -6,7 +6,6 @@
 #include "tests/support/simulatorprogram.h"
 #include "tests/support/tcppeer.h"
 
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QHostAddress>
@@ -102,8 +101,6 @@ public:
     bool saveScreenshot();
 
 private:
-    bool chooseText(const char *list, const QString &text);
-
     const QTemporaryDir m_folder;
     const QString m_port = m_folder.filePath(u"port"_s);
     const QString m_model;
@@ -156,23 +153,11 @@ bool Desk::isDisconnected()
     return m_console.looksAsExpected();
 }
 
-bool Desk::chooseText(const char *list, const QString &text)
-{
-    constexpr int longList = 30;
-    const auto *rows = m_console.twin<QComboBox>(list);
-    if (rows->count() < longList)
-        return m_console.choose(list, text);
-    QStringList keys;
-    for (const QChar key : text)
-        keys.append(key);
-    return m_console.choose(list, keys, rows->findText(text));
-}
-
 bool Desk::take(const Step &step)
 {
     switch (step.move) {
     case Step::Move::Choose:
-        return chooseText(step.widget, step.input);
+        return m_console.choose(step.widget, step.input);
     case Step::Move::Click:
         return m_console.click(step.widget);
     case Step::Move::Press:

@@ -27,6 +27,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int deepestLayout = 10;
+constexpr int longList = 30;      // in rows; from here on typing is faster than walking
 constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 
 /// Its output, and nothing when it fails: looking for a window that is not there is such a failure.
@@ -232,22 +233,40 @@ QString ConsoleProgram::difference(const QWidget *twin, const QString &title) co
 
 bool ConsoleProgram::click(const char *widget)
 {
-    if (!looksAsExpected())
-        return false;
-    const auto *target = twin<QWidget>(widget);
-    if (!target->isVisible() || !target->isEnabled()) {
-        qWarning("%s is not to be clicked", widget);
-        return false;
-    }
-    const QPoint point
-        = geometry(title()).topLeft() + target->mapTo(m_twin.get(), target->rect().center());
-    return runXdotool({u"mousemove"_s, QString::number(point.x()), QString::number(point.y()),
-                       u"click"_s, u"1"_s});
+    return twin<QWidget>(widget) && perform({QString::fromLatin1(widget)});
 }
 
 bool ConsoleProgram::press(const QStringList &keys) const
 {
     return runXdotool(QStringList{u"key"_s} + keys);
+}
+
+bool ConsoleProgram::perform(const QStringList &moves) const
+{
+    if (!looksAsExpected())
+        return false;
+    const QPoint corner = geometry(title()).topLeft();
+    QStringList arguments;
+    for (const QString &move : moves) {
+        const auto *target = m_twin->findChild<QWidget *>(move);
+        if (!target) {
+            arguments += {u"key"_s, move};
+            continue;
+        }
+        if (!target->isVisible() || !target->isEnabled()) {
+            qWarning() << move << "is not to be clicked";
+            return false;
+        }
+        const QPoint point = corner + target->mapTo(m_twin.get(), target->rect().center());
+        arguments += {u"mousemove"_s,
+                      QString::number(point.x()),
+                      QString::number(point.y()),
+                      u"click"_s,
+                      u"--delay"_s,
+                      u"0"_s,
+                      u"1"_s};
+    }
+    return runXdotool(arguments);
 }
 
 bool ConsoleProgram::choose(const char *comboBox, const QStringList &keys, int expectedRow)
@@ -270,7 +289,14 @@ bool ConsoleProgram::choose(const char *comboBox, const QString &text)
         qWarning() << text << "is not in" << comboBox;
         return false;
     }
-    return choose(comboBox, QStringList{u"Home"_s} + QStringList(row, u"Down"_s), row);
+    QStringList keys{u"Home"_s};
+    if (row < longList) {
+        keys += QStringList(row, u"Down"_s);
+    } else {
+        for (const QChar key : text)
+            keys.append(key);
+    }
+    return choose(comboBox, keys, row);
 }
 
 bool ConsoleProgram::typeAddress(const QString &address)

@@ -33,6 +33,7 @@ public:
     /// Returns when the main window is shown and has the keyboard.
     bool start();
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    qint64 processId() const { return m_process.processId(); }
     /// Waits until the program has ended by itself with exit code 0.
     bool endsWell();
 
@@ -57,9 +58,13 @@ public:
     bool click(const char *widget);
     /// Presses one key after the other, named as xdotool names them: {"ctrl+5", "Return"}.
     bool press(const QStringList &keys) const;
+    /// Clicks on the widgets of those names and presses the keys of all other ones, without looking
+    /// in between. None of the moves may change where the widgets of the later ones are.
+    bool perform(const QStringList &moves) const;
     /// Opens a list with the mouse, presses the keys and takes the row with Return.
     bool choose(const char *comboBox, const QStringList &keys, int expectedRow);
-    /// Opens a list with the mouse and goes from its top to the row of that text.
+    /// Opens a list with the mouse and goes from its top to the row of that text, or types the text
+    /// where that is far away. There, the text is of letters and digits.
     bool choose(const char *comboBox, const QString &text);
     /// Types an IPv4 address into its four boxes, which the model has to show.
     bool typeAddress(const QString &address);

@@ -7,6 +7,8 @@
 #include <QHostAddress>
 #include <QTcpSocket>
 
+#include <sys/socket.h>
+
 QHostAddress TcpPeer::address()
 {
     const auto process = static_cast<quint32>(QCoreApplication::applicationPid());
@@ -38,6 +40,11 @@ void TcpPeer::send(const QByteArray &bytes)
 void TcpPeer::hangUp()
 {
     m_socket->disconnectFromHost();
+}
+
+void TcpPeer::stopSending()
+{
+    ::shutdown(static_cast<int>(m_socket->socketDescriptor()), SHUT_WR);
 }
 
 void TcpPeer::acceptConnection()

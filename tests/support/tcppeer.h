@@ -38,6 +38,8 @@ public:
     void send(const QByteArray &bytes);
     /// Closes the present connection and goes on listening.
     void hangUp();
+    /// Says that nothing more is sent, and stays connected until the console has hung up, too.
+    void stopSending();
 
 private:
     void acceptConnection();
