@@ -41,22 +41,26 @@ QByteArray epochBytes(const QDateTime &now)
 
 QByteArray clockBytes(quint32 commandId, const QDateTime &now)
 {
-    const QDateTime local = now.toLocalTime();
-    const QDateTime utc = now.toUTC();
-    const int localYear = local.date().year();
-
+    // Conversions between time zones are slow, and most commands are no clock commands.
     switch (commandId) {
     case CommandId::SetTime:
-        return timeBytes(local.time());
-    case CommandId::SetDate:
-        return dateBytes(local.date(), localYear);
-    case CommandId::SetDateTime:
-        return dateBytes(local.date(), localYear) + timeBytes(local.time());
+        return timeBytes(now.toLocalTime().time());
+    case CommandId::SetDate: {
+        const QDate local = now.toLocalTime().date();
+        return dateBytes(local, local.year());
+    }
+    case CommandId::SetDateTime: {
+        const QDateTime local = now.toLocalTime();
+        return dateBytes(local.date(), local.date().year()) + timeBytes(local.time());
+    }
     case CommandId::SetUtcEpoch:
         return epochBytes(now);
-    case CommandId::SetUtcFull:
+    case CommandId::SetUtcFull: {
+        const QDateTime utc = now.toUTC();
         // The century is the local one: it differs on the night a century turns, deliberately.
+        const int localYear = now.toLocalTime().date().year();
         return dateBytes(utc.date(), localYear) + timeBytes(utc.time());
+    }
     default:
         return {};
     }

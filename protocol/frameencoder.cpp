@@ -6,12 +6,14 @@
 #include "catalogue/listnumbers.h"
 #include "protocol/textmessage.h"
 
-using namespace Qt::Literals::StringLiterals;
+#include <algorithm>
 
 namespace {
 
 constexpr quint8 setMessageCode = 3;
 constexpr quint8 textCommandCode = 4;
+
+constexpr char playbackArguments[] = {'2', '5', '5', '\0', '2', '5', '5', '\0'};
 
 } // namespace
 
@@ -26,7 +28,7 @@ bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QB
         if (!model.connectsOnDemand())
             body += entry.data;
         else if (entry.code == textCommandCode && holdsTextName(entry))
-            body += textMessage("cmd"_ba, textName(entry));
+            body += textMessage("cmd", textName(entry));
     }
     return found;
 }
@@ -49,7 +51,7 @@ bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &co
         } else if (body.size() >= 2) {
             body.clear();
             if (entry.code == setMessageCode) {
-                body += textMessage("set"_ba, volumeTextName);
+                body += textMessage("set", volumeTextName);
                 body += QByteArray::number(volumeByte - loudestTextVolume) + '\0';
             }
         }
@@ -66,7 +68,7 @@ void appendPlaybackArguments(const DeviceModel &model, quint32 commandId, QByteA
     case CommandId::Play:
     case CommandId::Stop:
     case CommandId::NextFile:
-        body += "255"_ba + '\0' + "255"_ba + '\0';
+        body.append(playbackArguments, sizeof playbackArguments);
         break;
     default:
         break;
@@ -110,9 +112,12 @@ quint8 playerIdByteFromText(const QString &playerId)
 QByteArray wireFrame(const DeviceModel &model, quint8 playerIdByte, quint8 code,
                      const QByteArray &body)
 {
-    QByteArray frame;
+    const qsizetype headerSize = model.protocol == ProtocolKind::Classic ? 2 : 1;
+    QByteArray frame(headerSize + body.size(), Qt::Uninitialized);
+    char *bytes = frame.data();
     if (model.protocol == ProtocolKind::Classic)
-        frame += static_cast<char>(playerIdByte);
-    frame += static_cast<char>(code);
-    return frame + body;
+        *bytes++ = static_cast<char>(playerIdByte);
+    *bytes++ = static_cast<char>(code);
+    std::copy(body.cbegin(), body.cend(), bytes);
+    return frame;
 }

@@ -66,7 +66,7 @@ void appendRequest(const DeviceModel &model, const QString &label, quint8 &code,
         if (!model.connectsOnDemand())
             body += entry.data;
         else if (holdsTextName(entry))
-            body += textMessage("get"_ba, textName(entry));
+            body += textMessage("get", textName(entry));
     }
 }
 
@@ -78,7 +78,10 @@ void appendOtherCommand(const DeviceModel &model, const QString &label, const QD
             continue;
         code = entry.code;
         const QByteArray clock = clockBytes(entry.commandId, now);
-        body += clock.isEmpty() ? entry.data : clock;
+        if (clock.isEmpty())
+            body += entry.data;
+        else
+            body += clock;
     }
 }
 
@@ -93,8 +96,11 @@ void appendPlaybackSource(const DeviceModel &model, const QString &label,
             body += entry.data;
             writeChoice(entry.commandId, choice, body);
         } else if (holdsTextName(entry)) {
-            body += textMessage("cmd"_ba, textName(entry));
-            body += firstArgument(entry.commandId, choice) + '\0' + "0"_ba + '\0';
+            body += textMessage("cmd", textName(entry));
+            body += firstArgument(entry.commandId, choice);
+            body += '\0';
+            body += '0';
+            body += '\0';
         }
     }
 }

@@ -3,9 +3,17 @@
 
 #include "protocol/textmessage.h"
 
-QByteArray textMessage(const QByteArray &verb, const QByteArray &name)
+QByteArray textMessage(QByteArrayView verb, QByteArrayView name)
 {
-    return QByteArray(3, '\0') + verb + '\0' + name + '\0';
+    constexpr qsizetype head = 3;
+    QByteArray message;
+    message.reserve(head + verb.size() + 1 + name.size() + 1);
+    message.append(head, '\0');
+    message += verb;
+    message += '\0';
+    message += name;
+    message += '\0';
+    return message;
 }
 
 bool holdsTextName(const CommandEntry &entry)
@@ -13,7 +21,7 @@ bool holdsTextName(const CommandEntry &entry)
     return entry.data.size() >= 3 && entry.dataMax.size() >= 3;
 }
 
-QByteArray textName(const CommandEntry &entry)
+QByteArrayView textName(const CommandEntry &entry)
 {
-    return entry.data.sliced(2);
+    return QByteArrayView(entry.data).sliced(2);
 }

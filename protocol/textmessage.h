@@ -6,6 +6,7 @@
 #include "catalogue/commandentry.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 
 // Text messages of the extended family over TCP/IP, behind the code byte:
 //
@@ -19,11 +20,11 @@ inline constexpr char volumeTextName[] = "VolumeLocalMusic";
 inline constexpr int loudestTextVolume = 64;
 
 /// The message up to the zero behind the name; arguments follow it.
-QByteArray textMessage(const QByteArray &verb, const QByteArray &name);
+QByteArray textMessage(QByteArrayView verb, QByteArrayView name);
 
 /// Whether the entry has a name for a text message: it stands behind the two range or filler bytes
 /// of `data`, and `dataMax` has to be as long as three bytes, too.
 bool holdsTextName(const CommandEntry &entry);
 
-/// The name; only for an entry that holds one.
-QByteArray textName(const CommandEntry &entry);
+/// The name; only for an entry that holds one, and for as long as it does.
+QByteArrayView textName(const CommandEntry &entry);

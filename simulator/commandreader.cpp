@@ -159,7 +159,7 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
     if (!takesCode(entry, cursor))
         return;
     if (entry.commandId == CommandId::Volume) {
-        cursor.expect(textMessage("set"_ba, volumeTextName));
+        cursor.expect(textMessage("set", volumeTextName));
         command.number = cursor.takeNumberText() + loudestTextVolume;
         return;
     }
@@ -168,7 +168,7 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
         return;
     }
     const bool isRequest = entry.commandId == CommandId::Request;
-    cursor.expect(textMessage(isRequest ? "get"_ba : "cmd"_ba, textName(entry)));
+    cursor.expect(textMessage(isRequest ? "get" : "cmd", textName(entry)));
     switch (entry.commandId) {
     case CommandId::SourceFolder:
     case CommandId::SourceSpotReset:
