@@ -14,6 +14,7 @@ struct DeviceModel;
 class QSpinBox;
 class ReceivedTextDisplay;
 class Ui_MainWindow;
+class VisibilityPlan;
 
 /// The console's only window. It holds every slot and hands the widgets' values to the functions
 /// of catalogue/, protocol/, link/ and ui/; the members live in the folder of their subject, in
@@ -178,12 +179,16 @@ private:
     static QString firmwareNote(const QString &firmware);
     /// Makes room for the longest note, so that nothing below it moves with the model.
     void reserveFirmwareNoteRoom();
-    void showConnectionPanel(const DeviceModel &model);
-    void showCommand(const CommandEntry &entry, const DeviceModel &model);
-    void showVolume(const CommandEntry &entry);
-    void showPlaybackButton(QWidget *button);
-    void showSubtitleButton(QWidget *button);
-    void showSubtitleSelection(const QStringList &types);
+    // Parts of the change of panels: they fill lists and plan what is to be seen.
+    void hideCommandPanels(VisibilityPlan &plan);
+    void showConnectionPanel(const DeviceModel &model, VisibilityPlan &plan);
+    void showCommand(const CommandEntry &entry, const DeviceModel &model, VisibilityPlan &plan);
+    void showVolume(const CommandEntry &entry, VisibilityPlan &plan);
+    void showPlaybackButton(QWidget *button, VisibilityPlan &plan);
+    void addOtherCommand(const QString &label, VisibilityPlan &plan);
+    void showSubtitleButton(QWidget *button, VisibilityPlan &plan);
+    void showSubtitleSelection(const QStringList &types, VisibilityPlan &plan);
+    void showSourceOfPlayback(int index, VisibilityPlan &plan);
 
     Ui_MainWindow *m_ui;
 };

@@ -38,6 +38,7 @@ void MainWindow::applyLanguage()
     m_ui->action_About->setText(m_ui->action_About->text() + u' '
                                 + QCoreApplication::applicationName());
     updateFirmwareNote();
+    reserveFirmwareNoteRoom();
 }
 
 void MainWindow::uncheckLanguageActions()

@@ -35,7 +35,16 @@ NumberRange wordRange(const CommandEntry &entry)
 
 QString paddedNumber(int number)
 {
-    return QString::number(number).rightJustified(3, u'0');
+    constexpr int digits = 3;
+    if (number < 0 || number > highestFolder)
+        return QString::number(number).rightJustified(digits, u'0');
+    // The lists have up to a thousand of them.
+    QString text(digits, Qt::Uninitialized);
+    for (int place = digits - 1; place >= 0; --place) {
+        text[place] = QChar(u'0' + number % 10);
+        number /= 10;
+    }
+    return text;
 }
 
 QStringList numberTexts(NumberRange range)

@@ -11,6 +11,7 @@
 #include "ui_mainwindow.h"
 
 #include <QFontDatabase>
+#include <QStringListModel>
 
 // What Designer's file cannot say.
 void MainWindow::completeForm()
@@ -26,8 +27,12 @@ void MainWindow::completeForm()
         }
     }
     const QList<QComboBox *> lists = m_ui->centralWidget->findChildren<QComboBox *>();
-    for (QComboBox *list : lists)
+    for (QComboBox *list : lists) {
         list->setStyle(style);
+        // Their rows are texts, up to a thousand. A list has a model for more than that by itself,
+        // which takes ten times as long to fill.
+        list->setModel(new QStringListModel(list));
+    }
     new FullTextTip(lists, this);
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons)

@@ -5,10 +5,12 @@
 #include "app/mainwindow.h"
 #include "catalogue/listnumbers.h"
 #include "ui/subtitlecodes.h"
+#include "ui/visibilityplan.h"
 #include "ui_mainwindow.h"
 
 #include <QComboBox>
 #include <QSignalBlocker>
+#include <QStringListModel>
 
 #include <initializer_list>
 
@@ -16,30 +18,33 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void showAll(std::initializer_list<QWidget *> widgets)
+/// Adds rows all at once.
+void appendRows(QComboBox *list, const QStringList &texts)
 {
-    for (QWidget *widget : widgets)
-        widget->show();
-}
-
-void hideAll(std::initializer_list<QWidget *> widgets)
-{
-    for (QWidget *widget : widgets)
-        widget->hide();
+    auto *model = qobject_cast<QStringListModel *>(list->model());
+    model->setStringList(model->stringList() + texts);
 }
 
 /// Shows the panel of a list that has something to choose.
-void showIfFilled(const QComboBox *list, std::initializer_list<QWidget *> widgets)
+void showIfFilled(const QComboBox *list, std::initializer_list<QWidget *> widgets,
+                  VisibilityPlan &plan)
 {
     if (list->count() > 0)
-        showAll(widgets);
+        plan.show(widgets);
 }
 
 } // namespace
 
 void MainWindow::hideCommandPanels()
 {
-    hideAll({
+    VisibilityPlan plan;
+    hideCommandPanels(plan);
+    plan.carryOut();
+}
+
+void MainWindow::hideCommandPanels(VisibilityPlan &plan)
+{
+    plan.hide({
         m_ui->frame_Port,
         m_ui->frame_Baudrate,
         m_ui->frame_IP,
@@ -107,34 +112,39 @@ void MainWindow::on_comboBox_Player_activated(int index)
           m_ui->comboBox_Subtitles_Type, m_ui->comboBox_Subtitles_Value}) {
         list->clear();
     }
-    hideCommandPanels();
+    VisibilityPlan plan;
+    hideCommandPanels(plan);
 
     const DeviceModel &model = deviceCatalogue.at(index);
-    m_ui->checkBox_Auto_connection->setVisible(!selectedModel().connectsOnDemand());
-    showConnectionPanel(model);
+    if (selectedModel().connectsOnDemand())
+        plan.hide({m_ui->checkBox_Auto_connection});
+    else
+        plan.show({m_ui->checkBox_Auto_connection});
+    showConnectionPanel(model, plan);
     updateFirmwareNote();
 
-    m_ui->comboBox_ID->addItems(numberTexts({model.minPlayerId, model.maxPlayerId}));
+    appendRows(m_ui->comboBox_ID, numberTexts({model.minPlayerId, model.maxPlayerId}));
     if (m_ui->comboBox_ID->count() > 1)
-        showAll({m_ui->frame_ID, m_ui->line_ID_and_Folder, m_ui->line_after_ID});
+        plan.show({m_ui->frame_ID, m_ui->line_ID_and_Folder, m_ui->line_after_ID});
 
     for (const CommandEntry &entry : model.commands)
-        showCommand(entry, model);
+        showCommand(entry, model, plan);
 
     onSocketConnected();
-    on_comboBox_Source_Of_Playback_activated(0);
+    showSourceOfPlayback(0, plan);
+    plan.carryOut();
 }
 
-void MainWindow::showConnectionPanel(const DeviceModel &model)
+void MainWindow::showConnectionPanel(const DeviceModel &model, VisibilityPlan &plan)
 {
     if (model.transport == TransportKind::TcpIp) {
         m_ui->label_IP_Port->setText("( "_L1 + tr("Port number: ") + QString::number(model.tcpPort)
                                      + " )"_L1);
-        showAll({m_ui->frame_IP});
+        plan.show({m_ui->frame_IP});
         return;
     }
 
-    showAll({m_ui->frame_Port, m_ui->frame_Baudrate});
+    plan.show({m_ui->frame_Port, m_ui->frame_Baudrate});
     QComboBox *list = m_ui->comboBox_Baudrate;
     for (const qint32 baudRate : model.baudRates) {
         list->addItem(QString::number(baudRate));
@@ -145,51 +155,52 @@ void MainWindow::showConnectionPanel(const DeviceModel &model)
         m_ui->frame_Baudrate->setEnabled(true);
 }
 
-void MainWindow::showCommand(const CommandEntry &entry, const DeviceModel &model)
+void MainWindow::showCommand(const CommandEntry &entry, const DeviceModel &model,
+                             VisibilityPlan &plan)
 {
     switch (entry.commandId) {
     case CommandId::Folder:
-        m_ui->comboBox_Folder->addItems(folderTexts(entry, model.folderBankCount));
-        showIfFilled(m_ui->comboBox_Folder, {m_ui->line_ID_and_Folder, m_ui->frame_Folder});
+        appendRows(m_ui->comboBox_Folder, folderTexts(entry, model.folderBankCount));
+        showIfFilled(m_ui->comboBox_Folder, {m_ui->line_ID_and_Folder, m_ui->frame_Folder}, plan);
         break;
     case CommandId::PreviousFolder:
-        showPlaybackButton(m_ui->pushButton_Previous_Folder);
+        showPlaybackButton(m_ui->pushButton_Previous_Folder, plan);
         break;
     case CommandId::PreviousFile:
-        showPlaybackButton(m_ui->pushButton_Previous_File);
+        showPlaybackButton(m_ui->pushButton_Previous_File, plan);
         break;
     case CommandId::Play:
-        showPlaybackButton(m_ui->pushButton_Play);
+        showPlaybackButton(m_ui->pushButton_Play, plan);
         break;
     case CommandId::Stop:
-        showPlaybackButton(m_ui->pushButton_Stop);
+        showPlaybackButton(m_ui->pushButton_Stop, plan);
         break;
     case CommandId::Pause:
-        showPlaybackButton(m_ui->pushButton_Pause);
+        showPlaybackButton(m_ui->pushButton_Pause, plan);
         break;
     case CommandId::NextFile:
-        showPlaybackButton(m_ui->pushButton_Next_File);
+        showPlaybackButton(m_ui->pushButton_Next_File, plan);
         break;
     case CommandId::NextFolder:
-        showPlaybackButton(m_ui->pushButton_Next_Folder);
+        showPlaybackButton(m_ui->pushButton_Next_Folder, plan);
         break;
     case CommandId::Volume:
-        showVolume(entry);
+        showVolume(entry, plan);
         break;
     case CommandId::Request:
         m_ui->comboBox_Request->addItem(entry.label);
-        showAll({m_ui->frame_Request, m_ui->line_Request});
+        plan.show({m_ui->frame_Request, m_ui->line_Request});
         break;
     case CommandId::ChangeId:
         if (model.transport == TransportKind::TcpIp)
             break;
-        m_ui->comboBox_Change_ID->addItems(numberTexts(byteRange(entry)));
+        appendRows(m_ui->comboBox_Change_ID, numberTexts(byteRange(entry)));
         if (m_ui->comboBox_Change_ID->count() > 1)
-            showAll({m_ui->frame_Change_ID, m_ui->line_after_Change_ID});
+            plan.show({m_ui->frame_Change_ID, m_ui->line_after_Change_ID});
         break;
     case CommandId::StandbyWakeup:
-        showAll({m_ui->frame_Standby_Wakeup, m_ui->line_after_Change_Before_Standby,
-                 m_ui->line_Playback_Command});
+        plan.show({m_ui->frame_Standby_Wakeup, m_ui->line_after_Change_Before_Standby,
+                   m_ui->line_Playback_Command});
         break;
     case CommandId::VolumeUp:
     case CommandId::VolumeDown:
@@ -211,73 +222,74 @@ void MainWindow::showCommand(const CommandEntry &entry, const DeviceModel &model
     case CommandId::ProjectorPower:
     case CommandId::Reserved45:
     case CommandId::Other:
-        addOtherCommand(entry.label);
+        addOtherCommand(entry.label, plan);
         break;
     case CommandId::MuteToggle:
-        showAll({m_ui->frame_Volume, m_ui->pushButton_Volume_Mute_Unmute, m_ui->line_Volume,
-                 m_ui->line_before_Mute_Unmute});
+        plan.show({m_ui->frame_Volume, m_ui->pushButton_Volume_Mute_Unmute, m_ui->line_Volume,
+                   m_ui->line_before_Mute_Unmute});
         break;
     case CommandId::Relay:
-        showAll({m_ui->frame_Relay_Command, m_ui->line_Relay});
+        plan.show({m_ui->frame_Relay_Command, m_ui->line_Relay});
         break;
     case CommandId::SourceFolder:
     case CommandId::SourceSpotReset:
     case CommandId::SourceWebradio:
     case CommandId::SourceAlternate:
         m_ui->comboBox_Source_Of_Playback->addItem(entry.label);
-        showAll({m_ui->frame_Content_Playback, m_ui->line_Content_Playback});
-        hideAll({m_ui->frame_Ref_Of_Playback, m_ui->frame_Option_Of_Playback,
-                 m_ui->frame_Webradio_Ref_Of_Playback});
+        plan.show({m_ui->frame_Content_Playback, m_ui->line_Content_Playback});
+        plan.hide({m_ui->frame_Ref_Of_Playback, m_ui->frame_Option_Of_Playback,
+                   m_ui->frame_Webradio_Ref_Of_Playback});
         break;
     case CommandId::SubtitlesOff:
-        showSubtitleButton(m_ui->pushButton_Subtitles_Off);
+        showSubtitleButton(m_ui->pushButton_Subtitles_Off, plan);
         break;
     case CommandId::SubtitlesOn:
-        showSubtitleButton(m_ui->pushButton_Subtitles_On);
+        showSubtitleButton(m_ui->pushButton_Subtitles_On, plan);
         break;
     case CommandId::SubtitlesPrevious:
-        showSubtitleButton(m_ui->pushButton_Subtitles_Previous);
+        showSubtitleButton(m_ui->pushButton_Subtitles_Previous, plan);
         break;
     case CommandId::SubtitlesNext:
-        showSubtitleButton(m_ui->pushButton_Subtitles_Next);
+        showSubtitleButton(m_ui->pushButton_Subtitles_Next, plan);
         break;
     case CommandId::SubtitlesPreviousLoop:
-        showSubtitleButton(m_ui->pushButton_Subtitles_Previous_Loop);
+        showSubtitleButton(m_ui->pushButton_Subtitles_Previous_Loop, plan);
         break;
     case CommandId::SubtitlesNextLoop:
-        showSubtitleButton(m_ui->pushButton_Subtitles_Next_Loop);
+        showSubtitleButton(m_ui->pushButton_Subtitles_Next_Loop, plan);
         break;
     case CommandId::SubtitlesByLanguage:
-        showSubtitleSelection({subtitleTypeIso6392B, subtitleTypeIso6392T, subtitleTypeIso6393});
+        showSubtitleSelection({subtitleTypeIso6392B, subtitleTypeIso6392T, subtitleTypeIso6393},
+                              plan);
         on_comboBox_Subtitles_Type_activated();
         break;
     case CommandId::SubtitlesByIndex:
         // The values stay empty until the user touches the type list.
-        showSubtitleSelection({subtitleTypeIndex});
+        showSubtitleSelection({subtitleTypeIndex}, plan);
         break;
     default:
         break;
     }
 }
 
-void MainWindow::showPlaybackButton(QWidget *button)
+void MainWindow::showPlaybackButton(QWidget *button, VisibilityPlan &plan)
 {
-    showAll({m_ui->frame_Playback_Command, button, m_ui->line_Playback_Command});
+    plan.show({m_ui->frame_Playback_Command, button, m_ui->line_Playback_Command});
 }
 
-void MainWindow::showSubtitleButton(QWidget *button)
+void MainWindow::showSubtitleButton(QWidget *button, VisibilityPlan &plan)
 {
-    showAll({m_ui->frame_Content_Subtitles, m_ui->line_Subtitles, button});
+    plan.show({m_ui->frame_Content_Subtitles, m_ui->line_Subtitles, button});
 }
 
-void MainWindow::showSubtitleSelection(const QStringList &types)
+void MainWindow::showSubtitleSelection(const QStringList &types, VisibilityPlan &plan)
 {
-    showAll({m_ui->frame_Content_Subtitles, m_ui->line_Subtitles, m_ui->frame_Subtitles_Value,
-             m_ui->frame_Subtitles_Type, m_ui->pushButton_Subtitles_Select});
-    m_ui->comboBox_Subtitles_Type->addItems(types);
+    plan.show({m_ui->frame_Content_Subtitles, m_ui->line_Subtitles, m_ui->frame_Subtitles_Value,
+               m_ui->frame_Subtitles_Type, m_ui->pushButton_Subtitles_Select});
+    appendRows(m_ui->comboBox_Subtitles_Type, types);
 }
 
-void MainWindow::showVolume(const CommandEntry &entry)
+void MainWindow::showVolume(const CommandEntry &entry, VisibilityPlan &plan)
 {
     const NumberRange range
         = selectedModel().protocol == ProtocolKind::Classic ? byteRange(entry) : wordRange(entry);
@@ -289,19 +301,25 @@ void MainWindow::showVolume(const CommandEntry &entry)
         slider->setMaximum(range.last);
         slider->setValue(range.last);
     }
-    showAll({m_ui->frame_Volume, m_ui->pushButton_Volume_Less, m_ui->pushButton_Volume_More,
-             m_ui->line_Volume});
+    plan.show({m_ui->frame_Volume, m_ui->pushButton_Volume_Less, m_ui->pushButton_Volume_More,
+               m_ui->line_Volume});
 }
 
 void MainWindow::addOtherCommand(const QString &label)
 {
+    VisibilityPlan plan;
+    addOtherCommand(label, plan);
+    plan.carryOut();
+}
+
+void MainWindow::addOtherCommand(const QString &label, VisibilityPlan &plan)
+{
     m_ui->comboBox_Other_Command->addItem(label);
-    showAll({m_ui->frame_Other_Command, m_ui->line_Other_Command});
+    plan.show({m_ui->frame_Other_Command, m_ui->line_Other_Command});
 }
 
 void MainWindow::updateFirmwareNote()
 {
-    reserveFirmwareNoteRoom();
     const QString firmware = selectedModel().firmwareVersion;
     if (firmware.isEmpty()) {
         m_ui->label_Comments->clear();
@@ -335,12 +353,16 @@ void MainWindow::reserveFirmwareNoteRoom()
     width = qMax(width, frame->minimumWidth() - 2 * frame->frameWidth() - margins.left()
                             - margins.right());
 
-    int height = 0;
+    QStringList versions;
     for (const DeviceModel &model : std::as_const(deviceCatalogue)) {
-        if (model.firmwareVersion.isEmpty())
-            continue;
+        if (!model.firmwareVersion.isEmpty())
+            versions.append(model.firmwareVersion);
+    }
+    versions.removeDuplicates();
+    int height = 0;
+    for (const QString &version : std::as_const(versions)) {
         const QRect room = m_ui->label_Comments->fontMetrics().boundingRect(
-            QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(model.firmwareVersion));
+            QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(version));
         height = qMax(height, room.height());
     }
     m_ui->label_Comments->setMinimumHeight(height);
@@ -348,8 +370,15 @@ void MainWindow::reserveFirmwareNoteRoom()
 
 void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)
 {
-    hideAll({m_ui->frame_Ref_Of_Playback, m_ui->frame_Option_Of_Playback,
-             m_ui->frame_Webradio_Ref_Of_Playback});
+    VisibilityPlan plan;
+    showSourceOfPlayback(index, plan);
+    plan.carryOut();
+}
+
+void MainWindow::showSourceOfPlayback(int index, VisibilityPlan &plan)
+{
+    plan.hide({m_ui->frame_Ref_Of_Playback, m_ui->frame_Option_Of_Playback,
+               m_ui->frame_Webradio_Ref_Of_Playback});
     m_ui->comboBox_Ref_Of_Playback->clear();
     m_ui->comboBox_Option_Of_Playback->clear();
     m_ui->comboBox_Webradio_Ref_Of_Playback->clear();
@@ -367,19 +396,19 @@ void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)
             = complete ? paddedNumberTexts(wordRange(entry)) : QStringList();
         switch (entry.commandId) {
         case CommandId::SourceSpotReset:
-            m_ui->comboBox_Ref_Of_Playback->addItems(references);
-            m_ui->comboBox_Option_Of_Playback->addItems(paddedNumberTexts(byteRange(entry, 2)));
-            showIfFilled(m_ui->comboBox_Ref_Of_Playback, {m_ui->frame_Ref_Of_Playback});
-            showIfFilled(m_ui->comboBox_Option_Of_Playback, {m_ui->frame_Option_Of_Playback});
+            appendRows(m_ui->comboBox_Ref_Of_Playback, references);
+            appendRows(m_ui->comboBox_Option_Of_Playback, paddedNumberTexts(byteRange(entry, 2)));
+            showIfFilled(m_ui->comboBox_Ref_Of_Playback, {m_ui->frame_Ref_Of_Playback}, plan);
+            showIfFilled(m_ui->comboBox_Option_Of_Playback, {m_ui->frame_Option_Of_Playback}, plan);
             break;
         case CommandId::SourceWebradio:
-            m_ui->comboBox_Webradio_Ref_Of_Playback->addItems(references);
+            appendRows(m_ui->comboBox_Webradio_Ref_Of_Playback, references);
             showIfFilled(m_ui->comboBox_Webradio_Ref_Of_Playback,
-                         {m_ui->frame_Webradio_Ref_Of_Playback});
+                         {m_ui->frame_Webradio_Ref_Of_Playback}, plan);
             break;
         case CommandId::SourceFolder:
-            m_ui->comboBox_Ref_Of_Playback->addItems(references);
-            showIfFilled(m_ui->comboBox_Ref_Of_Playback, {m_ui->frame_Ref_Of_Playback});
+            appendRows(m_ui->comboBox_Ref_Of_Playback, references);
+            showIfFilled(m_ui->comboBox_Ref_Of_Playback, {m_ui->frame_Ref_Of_Playback}, plan);
             break;
         default:
             break;
@@ -390,6 +419,6 @@ void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)
 void MainWindow::on_comboBox_Subtitles_Type_activated()
 {
     m_ui->comboBox_Subtitles_Value->clear();
-    m_ui->comboBox_Subtitles_Value->addItems(
-        subtitleValues(m_ui->comboBox_Subtitles_Type->currentText()));
+    appendRows(m_ui->comboBox_Subtitles_Value,
+               subtitleValues(m_ui->comboBox_Subtitles_Type->currentText()));
 }

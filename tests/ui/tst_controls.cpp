@@ -304,6 +304,8 @@ void tst_Controls::tabOrderIsReadingOrder()
     QVERIFY(QTest::qWaitForWindowActive(&console.window));
     console.selectModel(row);
     enableAll(console);
+    // The layouts follow a chosen model when the event loop runs.
+    QCoreApplication::processEvents();
     const QList<QWidget *> round = tabRound(console);
 
     QStringList reached = namesOf(round);
