@@ -3,6 +3,7 @@
 
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "link/serialhandle.h"
 #include "link/serialsettings.h"
 #include "protocol/frameencoder.h"
 #include "ui_mainwindow.h"
@@ -167,8 +168,12 @@ void MainWindow::writeFrame(quint8 playerIdByte, quint8 code, const QByteArray &
     const DeviceModel &model = selectedModel();
     const QByteArray frame = wireFrame(model, playerIdByte, code, body);
 
-    if (serialPort->isOpen())
+    if (serialPort->isOpen()) {
         serialPort->write(frame);
+        // The device need not wait until the window has drawn what was sent.
+        if (takesBytes(*serialPort))
+            serialPort->flush();
+    }
     if (tcpSocket->isOpen())
         tcpSocket->write(frame);
     // Queued on the connection that this starts. On one that is open already the device gets the
