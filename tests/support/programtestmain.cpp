@@ -24,13 +24,6 @@ bool prepareProgramTest(VirtualScreen &screen, const char *screenSize)
         std::fputs("FAIL!  : xdotool is missing (scripts/setup installs it)\n", stderr);
         return false;
     }
-    qputenv("DISPLAY", screen.displayName());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    // Input method, menu bar and dialogs of a desktop session would reach the program, too.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    for (const char *name : {"SESSION_MANAGER", "QT_IM_MODULE", "XMODIFIERS", "XAUTHORITY",
-                             "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY"}) {
-        qunsetenv(name);
-    }
+    screen.useForPrograms();
     return true;
 }

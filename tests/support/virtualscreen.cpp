@@ -74,3 +74,15 @@ bool VirtualScreen::start(const char *size)
     m_connection = ::xcb_connect(m_displayName.constData(), nullptr);
     return ::xcb_connection_has_error(m_connection) == 0;
 }
+
+void VirtualScreen::useForPrograms() const
+{
+    qputenv("DISPLAY", m_displayName);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    // Input method, menu bar and dialogs of a desktop session would reach the program, too.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    for (const char *name : {"SESSION_MANAGER", "QT_IM_MODULE", "XMODIFIERS", "XAUTHORITY",
+                             "XDG_CURRENT_DESKTOP", "WAYLAND_DISPLAY"}) {
+        qunsetenv(name);
+    }
+}

@@ -27,6 +27,11 @@ public:
     /// For the environment variable DISPLAY: ":99".
     QByteArray displayName() const { return m_displayName; }
 
+    /// Lets this process and the programs that it starts use the screen, without any part of the
+    /// user's desktop session. To be called after start(), before the application object is
+    /// created.
+    void useForPrograms() const;
+
 private:
     pid_t m_process = -1;
     QByteArray m_displayName;
