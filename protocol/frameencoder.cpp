@@ -59,6 +59,11 @@ bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &co
     return found;
 }
 
+quint8 sliderVolumeByte(int minimum, int value)
+{
+    return static_cast<quint8>(minimum + value);
+}
+
 void appendPlaybackArguments(const DeviceModel &model, quint32 commandId, QByteArray &body)
 {
     if (!model.connectsOnDemand())

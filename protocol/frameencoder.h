@@ -23,6 +23,10 @@ bool appendCommand(const DeviceModel &model, quint32 commandId, quint8 &code, QB
 bool appendVolumeCommand(const DeviceModel &model, quint8 volumeByte, quint8 &code,
                          QByteArray &body);
 
+/// The byte that a volume slider at `value` sends, modulo 256. The slider's minimum counts twice,
+/// as the value already lies above it.
+quint8 sliderVolumeByte(int minimum, int value);
+
 /// Appends the two arguments that the connect-on-demand family expects behind play, stop and the
 /// file steps; leaves the body of every other model and command as it is.
 void appendPlaybackArguments(const DeviceModel &model, quint32 commandId, QByteArray &body);

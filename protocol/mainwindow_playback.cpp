@@ -143,11 +143,9 @@ void MainWindow::Play_Folder_009()
 void MainWindow::on_horizontalSlider_Volume_valueChanged(int value)
 {
     const QSlider *slider = m_ui->horizontalSlider_Volume;
-    // The minimum counts twice, as the slider's value already lies above it.
-    const auto volumeByte = static_cast<quint8>(slider->minimum() + value);
     quint8 code = 0;
     QByteArray body;
-    if (!buildVolumeFrame(code, body, volumeByte))
+    if (!buildVolumeFrame(code, body, sliderVolumeByte(slider->minimum(), value)))
         return;
     sendCommand(code, body);
     m_ui->label_Volume_2->setText(QString::number(slider->value()));

@@ -61,6 +61,8 @@ private slots:
     void appendPlaybackArguments();
     void appendVolumeCommand_data();
     void appendVolumeCommand();
+    void sliderVolumeByte_data();
+    void sliderVolumeByte();
     void applyFolderNumber_data();
     void applyFolderNumber();
     void applyFirstByte_data();
@@ -309,6 +311,26 @@ void tst_FrameEncoder::appendVolumeCommand()
     QTEST(::appendVolumeCommand(model, static_cast<quint8>(volume), code, body), "found");
     QTEST(int(code), "code");
     QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::sliderVolumeByte_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("from 0: the value") << 0 << 40 << 40;
+    QTest::newRow("from 10: twice the minimum") << 10 << 10 << 20;
+    QTest::newRow("from 10, above it") << 10 << 25 << 35;
+    QTest::newRow("modulo 256") << 100 << 200 << 44;
+}
+
+void tst_FrameEncoder::sliderVolumeByte()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, value);
+
+    QTEST(int(::sliderVolumeByte(minimum, value)), "expected");
 }
 
 void tst_FrameEncoder::applyFolderNumber_data()
