@@ -8,6 +8,7 @@
 #include "catalogue/nearesttexts.h"
 #include "simulator/fault.h"
 #include "simulator/modellist.h"
+#include "simulator/protocolpage.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -59,6 +60,9 @@ SimulatorOptions parseOptions(const QStringList &arguments)
 {
     const QCommandLineOption list(u"list"_s,
                                   u"Show the models with their links and commands, and end."_s);
+    const QCommandLineOption protocol(
+        u"protocol"_s,
+        u"Print the page docs/protocol.md: the bytes of every command of every model."_s);
     const QCommandLineOption model(
         u"model"_s, u"Play the model of that name. May be given several times."_s, u"NAME"_s);
     const QCommandLineOption all(u"all"_s, u"Play all models at once."_s);
@@ -99,8 +103,8 @@ SimulatorOptions parseOptions(const QStringList &arguments)
         + faultDescriptions() + u"\nExit status: 0 after SIGINT or SIGTERM, 2 after an error."_s);
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Show this help, and end."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Show the version, and end."_s);
-    parser.addOptions(
-        {help, version, list, model, all, id, address, port, allowRemote, link, fault, log});
+    parser.addOptions({help, version, list, protocol, model, all, id, address, port, allowRemote,
+                       link, fault, log});
 
     if (!parser.parse(arguments))
         return failure(parser.errorText());
@@ -117,6 +121,8 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     }
 
     const DeviceCatalogue catalogue = buildDeviceCatalogue();
+    if (parser.isSet(protocol))
+        return output(protocolPage(catalogue));
     QStringList names;
     for (const DeviceModel &candidate : catalogue)
         names.append(candidate.name);

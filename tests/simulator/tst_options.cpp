@@ -317,16 +317,27 @@ private slots:
                                    "devices answer is not known to this project"_L1),
                      qPrintable(options.text));
             for (const char *known :
-                 {"--list",         "--model <NAME>",
-                  "--all",          "--id <N>",
-                  "--address <IP>", "--port <PORT>",
-                  "--allow-remote", "--link <PATH>",
-                  "--fault <NAME>", "--log <FILE>",
-                  "-h, --help",     "-v, --version",
-                  "no-answer ",     "single-bytes ",
-                  "garbage ",       "hang-up ",
-                  "megabyte ",      "markup ",
-                  "refuse ",        "Exit status: 0 after SIGINT or SIGTERM, 2 after an error."}) {
+                 {"--list",
+                  "--protocol",
+                  "--model <NAME>",
+                  "--all",
+                  "--id <N>",
+                  "--address <IP>",
+                  "--port <PORT>",
+                  "--allow-remote",
+                  "--link <PATH>",
+                  "--fault <NAME>",
+                  "--log <FILE>",
+                  "-h, --help",
+                  "-v, --version",
+                  "no-answer ",
+                  "single-bytes ",
+                  "garbage ",
+                  "hang-up ",
+                  "megabyte ",
+                  "markup ",
+                  "refuse ",
+                  "Exit status: 0 after SIGINT or SIGTERM, 2 after an error."}) {
                 QVERIFY2(text.contains(QLatin1StringView(known)), known);
             }
         }
