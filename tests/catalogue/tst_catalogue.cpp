@@ -596,7 +596,7 @@ void tst_Catalogue::modelOrder()
 
 void tst_Catalogue::lumoBridgeIsNotOffered()
 {
-    QCOMPARE(m_catalogue.size(), 15);
+    QCOMPARE(m_catalogue.size(), OfferedModels);
     for (const DeviceModel &model : m_catalogue)
         QVERIFY2(!model.name.contains("Lumo"_L1), qPrintable(model.name));
 }

@@ -62,8 +62,8 @@ constexpr int vistarShowSerial = 2;
 constexpr int vistarShowTcp = 3;
 constexpr int sonetASerial = 6;
 constexpr int sonetALiteTcp = 7;
-constexpr int lumoBridge = 15;
-constexpr int modelCount = 16;
+constexpr int modelCount = static_cast<int>(std::size(models));
+constexpr int lumoBridge = modelCount - 1;
 
 /// What goes out when a button is pressed, and the text that shows it.
 struct Sent
@@ -357,7 +357,8 @@ void tst_Requests::lists()
     const Device console(row);
 
     QCOMPARE(console.list("comboBox_Player")->currentText(), QLatin1StringView(models[row].name));
-    QCOMPARE(console.list("comboBox_Player")->count(), row == lumoBridge ? 16 : 15);
+    QCOMPARE(console.list("comboBox_Player")->count(),
+             row == lumoBridge ? lumoBridge + 1 : lumoBridge);
 
     struct
     {

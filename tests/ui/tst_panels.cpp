@@ -113,6 +113,8 @@ const char *const goldenFiles[] = {
     "12_pico_deck_legacy", "13_card_deck_hd",     "14_hv0xx",
 };
 
+constexpr int modelCount = static_cast<int>(std::size(goldenFiles));
+
 QStringList paddedRun(int first, int last)
 {
     QStringList texts;
@@ -218,7 +220,7 @@ DeviceModel model(const Commands &commands, ProtocolKind protocol = ProtocolKind
     return invented;
 }
 
-/// Lists a model behind the fifteen; the next window starts with a fresh catalogue.
+/// Lists a model behind those of the catalogue; the next window starts with a fresh catalogue.
 int offer(const ConsoleWindow &console, const DeviceModel &invented)
 {
     deviceCatalogue.append(invented);
@@ -319,10 +321,9 @@ void tst_Panels::walkThroughTheList_data()
 {
     QTest::addColumn<int>("row");
 
-    const int count = static_cast<int>(std::size(goldenFiles));
-    for (int row = 0; row < count; ++row)
+    for (int row = 0; row < modelCount; ++row)
         QTest::addRow("forwards %s", goldenFiles[row]) << row;
-    for (int row = count - 1; row >= 0; --row)
+    for (int row = modelCount - 1; row >= 0; --row)
         QTest::addRow("backwards %s", goldenFiles[row]) << row;
 }
 
@@ -333,7 +334,7 @@ void tst_Panels::walkThroughTheList()
 
     if (!m_walk) {
         m_walk = std::make_unique<ConsoleWindow>();
-        QCOMPARE(m_walk->find<QComboBox>("comboBox_Player")->count(), 15);
+        QCOMPARE(m_walk->find<QComboBox>("comboBox_Player")->count(), modelCount);
         // The constructor has applied the first model.
         const QByteArray differences
             = lineDifferences(panelOf(*m_walk, u"( Port number: ...)"_s),
@@ -359,7 +360,7 @@ void tst_Panels::onlyPanelsAreEverHidden()
     QSet<QString> mayBeHidden{u"label_Connection_Message"_s};
     for (const char *name : panels)
         mayBeHidden.insert(QString::fromLatin1(name));
-    for (int row = 0; row < 15; ++row) {
+    for (int row = 0; row < modelCount; ++row) {
         console.selectModel(row);
         const QList<QWidget *> widgets = namedWidgets(console.window);
         for (const QWidget *widget : widgets) {
@@ -1067,7 +1068,7 @@ void tst_Panels::rowOutsideTheCatalogueRefreshesOnly_data()
 {
     QTest::addColumn<int>("row");
 
-    QTest::newRow("first one behind the catalogue") << 15;
+    QTest::newRow("first one behind the catalogue") << modelCount;
     QTest::newRow("far away") << 1000;
     QTest::newRow("none") << -1;
 }
@@ -1196,7 +1197,7 @@ void tst_Panels::sameModelTwiceGivesTheSameWindow_data()
 {
     QTest::addColumn<int>("row");
 
-    for (int row = 0; row < 15; ++row)
+    for (int row = 0; row < modelCount; ++row)
         QTest::newRow(goldenFiles[row]) << row;
 }
 
@@ -1249,7 +1250,7 @@ void tst_Panels::choosingConnectsNothing()
     TcpPeer peer(1234);
     ConsoleWindow console;
     console.setAddress(TcpPeer::address().toString());
-    for (int row = 0; row < 15; ++row) {
+    for (int row = 0; row < modelCount; ++row) {
         console.selectModel(row);
         QCOMPARE(tcpSocket->state(), QAbstractSocket::UnconnectedState);
         QVERIFY(!tcpSocket->isOpen());
@@ -1263,7 +1264,7 @@ void tst_Panels::serialLinkStaysOpen()
     PtyPeer peer;
     ConsoleWindow console;
     console.connectSerial(peer);
-    for (int row = 0; row < 15; ++row) {
+    for (int row = 0; row < modelCount; ++row) {
         console.selectModel(row);
         QVERIFY(serialPort->isOpen());
         QVERIFY(console.find<QWidget>("pushButton_Disconnect")->isEnabled());
