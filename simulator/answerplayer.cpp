@@ -30,6 +30,7 @@ void AnswerPlayer::play(const QList<AnswerStep> &steps)
         size += step.bytes.size();
     if (m_queuedBytes + size > DeviceConnection::mostQueuedBytes
         || m_steps.size() + steps.size() > mostQueuedSteps) {
+        m_isFull = true;
         return;
     }
     m_queuedBytes += size;
@@ -51,6 +52,7 @@ void AnswerPlayer::playDue()
 
 void AnswerPlayer::playNext()
 {
+    m_isFull = false;
     const AnswerStep step = m_steps.takeFirst();
     m_queuedBytes -= step.bytes.size();
     m_connection->send(step.bytes);

@@ -22,6 +22,8 @@ public:
     /// answer that would bring more than DeviceConnection::mostQueuedBytes, or very many steps,
     /// into the queue is lost.
     void play(const QList<AnswerStep> &steps);
+    /// An answer was lost and nothing has been sent since: another one would be lost as well.
+    bool isFull() const { return m_isFull; }
 
 private:
     /// Plays on up to the next pause.
@@ -31,5 +33,6 @@ private:
     DeviceConnection *m_connection;
     QList<AnswerStep> m_steps;
     qsizetype m_queuedBytes = 0;
+    bool m_isFull = false;
     QTimer m_timer;
 };

@@ -61,7 +61,8 @@ void Conversation::handle(const QList<DecodedFrame> &frames)
         if (!frame.command || !m_device.isAddressedBy(*frame.command))
             continue;
         const QByteArray answer = m_device.obey(*frame.command, now);
-        m_player->play(m_fault ? m_fault->steps(answer) : QList<AnswerStep>{{{}, answer}});
+        if (!m_player->isFull())
+            m_player->play(m_fault ? m_fault->steps(answer) : QList<AnswerStep>{{{}, answer}});
         isObeyed = true;
     }
     if (isObeyed && m_model.connectsOnDemand())
