@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSerialPort>
+#include <QTextDocument>
 #include <QTextEdit>
 
 namespace {
@@ -45,6 +46,8 @@ public:
     {
         auto *editor = find<QTextEdit>("textEdit_Data");
         editor->setText(text);
+        // To know where the text ends, all of its lines have to be laid out.
+        editor->document()->size();
         QScrollBar *scrollBar = editor->verticalScrollBar();
         scrollBar->setValue(scrollBar->maximum());
     }

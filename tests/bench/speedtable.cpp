@@ -51,7 +51,7 @@ void SpeedTable::print(const QByteArray &measure, const QByteArray &ours,
                        const QByteArray &limit, bool isWithin)
 {
     m_withinLimits = m_withinLimits && isWithin;
-    std::printf("%-46s %10s %10s %6s %8s  %s\n", measure.constData(), ours.constData(),
+    std::printf("%-56s %10s %10s %6s %8s  %s\n", measure.constData(), ours.constData(),
                 yardstick.constData(), ratio.constData(), limit.constData(),
                 isWithin ? "ok" : "MISSED");
     std::fflush(stdout);

@@ -132,8 +132,8 @@ void StartedProgram::waitUntilIdle() const
 {
     constexpr useconds_t quiet = 500'000;
     double before = -1;
-    for (double now = wakeups(); now != before; now = wakeups()) {
-        before = now;
+    while (wakeups() > before) {
+        before = wakeups();
         ::usleep(quiet);
     }
 }

@@ -1057,6 +1057,7 @@ private slots:
                  qPrintable(QString::number(sinceStart.elapsed())));
         QVERIFY2(sinceStart.elapsed() < 8'000, qPrintable(QString::number(sinceStart.elapsed())));
         QTRY_VERIFY(console.received().startsWith("OK Play\r\n"));
+        QTRY_VERIFY(!simulator.frames().isEmpty());
         QStringList frames = simulator.frames();
         frames.removeDuplicates();
         QCOMPARE(frames, QStringList{u"Tempo Deck | ID 0 | 80 02 01 | Play"_s});
