@@ -99,7 +99,7 @@ void MainWindow::watchLinks(std::chrono::milliseconds connectTimeLimit)
 {
     // Arrivals stay small: a device in the network can fill the system's buffers with megabytes
     // before the window's turn comes, and converting them takes a second.
-    constexpr qint64 arrivalSize = 64 * 1024;
+    constexpr qint64 arrivalSize = 65'536; // in bytes
     tcpSocket->setReadBufferSize(arrivalSize);
     auto *watcher = new LinkWatcher(serialPort, tcpSocket, connectTimeLimit, this);
     connect(watcher, &LinkWatcher::linkLost, this, &MainWindow::onSocketDisconnected);
