@@ -3,6 +3,8 @@
 
 #include "ui/consolestyle.h"
 
+#include "ui/disabledpalette.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFrame>
@@ -24,11 +26,8 @@ bool isPanel(const QWidget *widget)
 /// For pictures; thin ones keep 3 : 1 on light and on dark buttons.
 QColor grey(const QPalette &palette)
 {
-    const QColor text = palette.color(QPalette::Active, QPalette::ButtonText);
-    const QColor button = palette.color(QPalette::Active, QPalette::Button);
-    const auto mixed = [](int one, int other) { return (57 * one + 43 * other) / 100; };
-    return {mixed(text.red(), button.red()), mixed(text.green(), button.green()),
-            mixed(text.blue(), button.blue())};
+    return DisabledPalette::mixed(palette.color(QPalette::Active, QPalette::ButtonText),
+                                  palette.color(QPalette::Active, QPalette::Button), 0.57F);
 }
 
 /// The shape of an icon in one colour, for a disabled button.

@@ -6,20 +6,6 @@
 #include <QEvent>
 #include <QWidget>
 
-namespace {
-
-QColor paler(const QColor &text, const QColor &background)
-{
-    // The thin strokes of letters keep 4.5 : 1 on usual light and dark windows.
-    constexpr float share = 0.65F;
-    const auto mixed = [](float one, float other) { return share * one + (1 - share) * other; };
-    return QColor::fromRgbF(mixed(text.redF(), background.redF()),
-                            mixed(text.greenF(), background.greenF()),
-                            mixed(text.blueF(), background.blueF()));
-}
-
-} // namespace
-
 DisabledPalette::DisabledPalette(QWidget *widget)
     : QObject(widget)
     , m_widget(widget)
@@ -35,15 +21,26 @@ bool DisabledPalette::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
+QColor DisabledPalette::mixed(const QColor &front, const QColor &back, float share)
+{
+    const auto between
+        = [share](float one, float other) { return share * one + (1 - share) * other; };
+    return QColor::fromRgbF(between(front.redF(), back.redF()),
+                            between(front.greenF(), back.greenF()),
+                            between(front.blueF(), back.blueF()));
+}
+
 QPalette DisabledPalette::tones(const QPalette &palette)
 {
+    // The thin strokes of letters keep 4.5 : 1 on usual light and dark windows.
+    constexpr float share = 0.65F;
     QPalette result;
     for (const auto &[text, background] : {std::pair(QPalette::WindowText, QPalette::Window),
                                            std::pair(QPalette::Text, QPalette::Base),
                                            std::pair(QPalette::ButtonText, QPalette::Button)}) {
         result.setColor(QPalette::Disabled, text,
-                        paler(palette.color(QPalette::Active, text),
-                              palette.color(QPalette::Active, background)));
+                        mixed(palette.color(QPalette::Active, text),
+                              palette.color(QPalette::Active, background), share));
     }
     return result;
 }

@@ -18,6 +18,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// The colour between two, opaque.
+    /// \a share of the front, 0 to 1
+    static QColor mixed(const QColor &front, const QColor &back, float share);
     /// Of the three roles for texts the disabled tones that belong to the active ones of `palette`,
     /// and nothing else.
     static QPalette tones(const QPalette &palette);

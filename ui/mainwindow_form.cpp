@@ -37,12 +37,11 @@ void MainWindow::completeForm()
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons)
         button->setStyle(style);
-    for (QWidget *widget : std::initializer_list<QWidget *>{
-             m_ui->label_Comments, m_ui->horizontalSlider_Volume, m_ui->label_Bytes_Sended,
-             m_ui->textEdit_Data, m_ui->spinBox_IP_1, m_ui->spinBox_IP_2, m_ui->spinBox_IP_3,
-             m_ui->spinBox_IP_4}) {
-        widget->setStyle(style);
-    }
+    for (QSpinBox *box : addressBoxes())
+        box->setStyle(style);
+    m_ui->horizontalSlider_Volume->setStyle(style);
+    m_ui->label_Bytes_Sended->setStyle(style);
+    m_ui->textEdit_Data->setStyle(style);
 
     const QFont fixedWidth = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_ui->label_Bytes_Sended->setFont(fixedWidth);
