@@ -483,8 +483,8 @@ private slots:
         QVERIFY(byPort.isOpen());
         QVERIFY(byPort.send(bytes("80 02 02")));
         QTRY_COMPARE(byPort.received(), "OK Stop\r\n"_ba);
-        QCOMPARE(simulator.frames(), QStringList({u"Tempo Deck | ID 0 | 80 02 01 | Play"_s,
-                                                  u"Tempo Deck | ID 0 | 80 02 02 | Stop"_s}));
+        QTRY_COMPARE(simulator.frames(), QStringList({u"Tempo Deck | ID 0 | 80 02 01 | Play"_s,
+                                                      u"Tempo Deck | ID 0 | 80 02 02 | Stop"_s}));
     }
 
     void ends_data()

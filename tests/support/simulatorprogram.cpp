@@ -114,6 +114,7 @@ void SimulatorProgram::forgetFrames()
 
 void SimulatorProgram::readLines()
 {
+    m_process.waitForReadyRead(0); // what is in the pipe counts, whether or not events were handled
     while (m_process.canReadLine())
         m_lines.append(QString::fromUtf8(m_process.readLine()).chopped(1));
 }
