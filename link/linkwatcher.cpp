@@ -17,7 +17,8 @@ bool isHungUp(const QSerialPort &port)
 {
 #ifdef Q_OS_UNIX
     pollfd handle{.fd = port.handle(), .events = 0, .revents = 0};
-    return ::poll(&handle, 1, 0) == 1;
+    // Some systems cannot poll a terminal, and say so in another bit.
+    return ::poll(&handle, 1, 0) == 1 && (handle.revents & (POLLERR | POLLHUP)) != 0;
 #else
     // Windows reports the loss of a device as an error of the port.
     Q_UNUSED(port)

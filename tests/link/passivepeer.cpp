@@ -66,6 +66,11 @@ QByteArray PassivePeer::read() const
     return bytes;
 }
 
+void PassivePeer::stopSending() const
+{
+    ::shutdown(m_connection, SHUT_WR);
+}
+
 void PassivePeer::reset()
 {
     const linger atOnce{.l_onoff = 1, .l_linger = 0};

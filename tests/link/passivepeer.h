@@ -20,6 +20,8 @@ public:
     void send(const QByteArray &bytes) const;
     /// What has come since the last call and fits into the system's room for unread bytes.
     QByteArray read() const;
+    /// Says that it sends nothing more; the other direction stays open.
+    void stopSending() const;
     /// Breaks the connection, as a device that does not know it any more.
     void reset();
     /// From here on it does not even acknowledge, as a device whose cable is cut.

@@ -112,6 +112,7 @@ private slots:
     void serialDeviceVanishesDuringAWrite();
     void networkDeviceHangsUpDuringAWrite();
     void networkDeviceResetsDuringAWrite();
+    void networkDeviceStopsSendingDuringAWrite();
     void networkDeviceResets();
     void onDemandDeviceResets();
     void halfOpenConnection();
@@ -259,6 +260,31 @@ void tst_LinkFaults::networkDeviceResetsDuringAWrite()
     QVERIFY(console.connectTcp());
     console.window.on_pushButton_Play_clicked();
     QTRY_COMPARE(next.received(), play);
+    console.expectQuiet();
+}
+
+void tst_LinkFaults::networkDeviceStopsSendingDuringAWrite()
+{
+    PassivePeer peer(tcpModelPort);
+    Console console(tcpModel);
+    QVERIFY(console.connectTcp());
+    QVERIFY(peer.accept());
+    while (tcpSocket->bytesToWrite() < 1000) {
+        console.window.writeFrame(0x80, 2, QByteArray(10'000, '\x01'));
+        QCoreApplication::processEvents();
+    }
+    // Its other direction stays open, and it never reads what waits there.
+    peer.stopSending();
+    QTRY_VERIFY(console.looksDisconnected());
+    QVERIFY(!anyLinkIsOpen());
+    QCOMPARE(tcpSocket->bytesToWrite(), 0);
+    peer.reset();
+
+    QVERIFY(console.connectTcp());
+    QVERIFY(peer.accept());
+    console.window.on_pushButton_Play_clicked();
+    QByteArray received;
+    QTRY_COMPARE((received += peer.read()).toHex(), play.toHex());
     console.expectQuiet();
 }
 
