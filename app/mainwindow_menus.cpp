@@ -30,8 +30,8 @@ void MainWindow::applyLanguage()
     const QString languageCode = name.section(u'_', 0, 0);
 
     QCoreApplication::removeTranslator(translator);
-    if (translator->load(languageFilePrefix + languageCode)
-        && isSoundTranslationFile(translator->filePath()))
+    const QString fileName = languageFilePrefix + languageCode;
+    if (isSoundTranslationFile(translationFilePath(fileName)) && translator->load(fileName))
         QCoreApplication::installTranslator(translator);
 
     m_ui->retranslateUi(this);

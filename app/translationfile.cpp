@@ -4,9 +4,12 @@
 #include "app/translationfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -16,6 +19,7 @@ constexpr qsizetype magicLength = 16;
 constexpr quint8 contextSection = 0x2F;
 constexpr quint8 hashSection = 0x42;
 constexpr quint8 messageSection = 0x69;
+constexpr quint8 dependencySection = 0x96;
 
 // The fields of a message.
 constexpr quint8 messageEnd = 1;
@@ -166,6 +170,8 @@ bool isSoundTranslation(QByteArrayView file)
         case messageSection:
             messages = *section;
             break;
+        case dependencySection:
+            return false;
         default:
             break;
         }
@@ -176,9 +182,25 @@ bool isSoundTranslation(QByteArrayView file)
 bool isSoundTranslationFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return false;
     // Mapped rather than read: it takes no memory, however long the file is.
     const uchar *bytes = file.map(0, file.size());
     return bytes && isSoundTranslation(QByteArrayView(bytes, qsizetype(file.size())));
+}
+
+QString translationFilePath(const QString &name)
+{
+    QString stem = name;
+    for (;;) {
+        for (const QString &path : {stem + ".qm"_L1, stem}) {
+            const QFileInfo file(path);
+            if (file.isFile() && file.isReadable())
+                return path;
+        }
+        const qsizetype cut = qMax(stem.lastIndexOf(u'_'), stem.lastIndexOf(u'.'));
+        if (cut <= 0)
+            return {};
+        stem.truncate(cut);
+    }
 }

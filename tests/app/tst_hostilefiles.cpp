@@ -373,6 +373,10 @@ void tst_HostileFiles::translation_data()
     });
     row("all but the last byte",
         [](const QString &path) { return write(path, frenchFile().chopped(1)); });
+    row("names itself", [](const QString &path) {
+        return write(path, frenchFile() + "\x96\0\0\0\x22\0\0\0\x1E"_ba
+                               + "\0L\0a\0n\0g\0u\0a\0g\0e\0D\0a\0t\0a\0_\0f\0r"_ba);
+    });
     row("damaged: source texts longer than the file", [](const QString &path) {
         return write(path, frenchFile().replace("\x06\0\0"_ba, "\x06\x7F\0"_ba));
     });

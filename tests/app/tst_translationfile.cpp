@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
 
@@ -47,6 +50,11 @@ QByteArray messages(const QByteArray &content)
     return section('\x69', content);
 }
 
+QByteArray dependencies(const QByteArray &names)
+{
+    return section('\x96', names);
+}
+
 QByteArray contexts(const QByteArray &content)
 {
     return section('\x2F', content);
@@ -68,6 +76,8 @@ private slots:
     void cut();
     void damaged();
     void path();
+    void foundAsQtFindsIt_data();
+    void foundAsQtFindsIt();
 };
 
 void tst_TranslationFile::crafted_data()
@@ -112,6 +122,13 @@ void tst_TranslationFile::crafted_data()
         hashes(entryAt0) + messages("\x07\x01\0\0\x04Main"_ba));
     row("comment longer than the rest", false, hashes(entryAt0) + messages("\x08\0\0\0\x01"_ba));
     row("section longer than the file", false, (hashes(entryAt0) + messages(message)).chopped(1));
+
+    row("another translation", false,
+        hashes(entryAt0) + messages(message) + dependencies("\0\0\0\2\0a"_ba));
+    row("another translation, named first", false,
+        dependencies("\0\0\0\2\0a"_ba) + hashes(entryAt0) + messages(message));
+    row("another translation behind the end", true,
+        hashes(entryAt0) + messages(message) + "\0\0\0\0\0"_ba + dependencies("\0\0\0\2\0a"_ba));
 
     row("contexts", true, contexts("\0\2\0\0\0\1\0\0\4Main\0"_ba));
     row("contexts without a table", false, contexts("\0\0"_ba));
@@ -178,10 +195,49 @@ void tst_TranslationFile::damaged()
 
 void tst_TranslationFile::path()
 {
+    QTest::failOnWarning(QRegularExpression(u".*"_s)); // nothing is said of a missing file
+    QVERIFY(!isSoundTranslationFile({}));
     QVERIFY(isSoundTranslationFile(frenchPath));
     QVERIFY(!isSoundTranslationFile(frenchPath + u".missing"_s));
     QVERIFY(!isSoundTranslationFile(QDir::tempPath()));
     QVERIFY(!isSoundTranslationFile(u"/dev/null"_s));
+}
+
+void tst_TranslationFile::foundAsQtFindsIt_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("found");
+
+    const auto row = [](const char *name, const QStringList &files, const QString &found) {
+        QTest::newRow(name) << files << found;
+    };
+    row("none", {}, {});
+    row("the usual one", {u"Data_fr.qm"_s, u"Data_de.qm"_s}, u"Data_fr.qm"_s);
+    row("without a suffix", {u"Data_fr"_s, u"Data.qm"_s}, u"Data_fr"_s);
+    row("both", {u"Data_fr"_s, u"Data_fr.qm"_s}, u"Data_fr.qm"_s);
+    row("without the language", {u"Data.qm"_s, u"Data"_s}, u"Data.qm"_s);
+    row("without anything", {u"Data"_s}, u"Data"_s);
+    row("of another language", {u"Data_de.qm"_s}, {});
+    row("of a longer name", {u"Data_fr_FR.qm"_s}, {});
+    row("a folder first", {u"Data_fr.qm/"_s, u"Data.qm"_s}, u"Data.qm"_s);
+    row("folders only", {u"Data_fr.qm/"_s, u"Data/"_s}, {});
+}
+
+void tst_TranslationFile::foundAsQtFindsIt()
+{
+    QFETCH(const QStringList, files);
+    QFETCH(const QString, found);
+    const QString before = QDir::currentPath();
+    const QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path()));
+    const auto comeBack = qScopeGuard([&] { QDir::setCurrent(before); });
+    for (const QString &name : files)
+        QVERIFY(name.endsWith(u'/') ? QDir().mkpath(name) : QFile::copy(frenchPath, name));
+
+    QCOMPARE(translationFilePath(u"Data_fr"_s), found);
+    QTranslator translator;
+    QCOMPARE(translator.load(u"Data_fr"_s), !found.isEmpty());
+    QCOMPARE(translator.filePath(), found);
 }
 
 QTEST_APPLESS_MAIN(tst_TranslationFile)
