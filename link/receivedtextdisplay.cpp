@@ -3,11 +3,20 @@
 
 #include "link/receivedtextdisplay.h"
 
+#include "link/wordlength.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTextOption>
+
+namespace {
+
+constexpr qsizetype longWord = 4096; // in UTF-16 units
+
+} // namespace
 
 ReceivedTextDisplay::ReceivedTextDisplay(QTextEdit *editor, const QString *text, QObject *parent,
                                          std::chrono::milliseconds cheapTime)
@@ -42,11 +51,22 @@ void ReceivedTextDisplay::handlePauseEnd()
         showText();
 }
 
+void ReceivedTextDisplay::setWrapMode(QTextOption::WrapMode mode)
+{
+    if (m_editor->wordWrapMode() == mode)
+        return;
+    // What was shown would be laid out again, in vain.
+    m_editor->clear();
+    m_editor->setWordWrapMode(mode);
+}
+
 void ReceivedTextDisplay::showText()
 {
     QElapsedTimer time;
     time.start();
     m_isBehind = false;
+    setWrapMode(longestWord(*m_text) > longWord ? QTextOption::WrapAnywhere
+                                                : QTextOption::WrapAtWordBoundaryOrAnywhere);
     m_editor->setText(*m_text);
     // Many lines are laid out bit by bit, by timers and when they are painted. Where they end, and
     // what they cost, is known when all of them are, and told to the scroll bar later still.

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTextOption>
 #include <QTimer>
 
 #include <chrono>
@@ -16,6 +17,10 @@ class QTextEdit;
 /// An editor lays a line out anew whenever it grows, and a long one takes it seconds. So an arrival
 /// is shown at once while that is cheap. When it was not, the arrivals of the time that follows are
 /// shown together at its end, and most of the time is left to the window's user.
+///
+/// To break a line within a word, an editor looks for the word's end, once for each line of it:
+/// bytes that are no text, and one word, would take it minutes. So a text with a word of thousands
+/// of characters is wrapped wherever a line is full.
 class ReceivedTextDisplay : public QObject
 {
     Q_OBJECT
@@ -35,6 +40,7 @@ public:
 
 private:
     void handlePauseEnd();
+    void setWrapMode(QTextOption::WrapMode mode);
     void showText();
 
     QTextEdit *m_editor;

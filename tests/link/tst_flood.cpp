@@ -107,13 +107,15 @@ void tst_Flood::leavesTheWindowToItsUser_data()
     QTest::addColumn<QByteArray>("form");
     QTest::addColumn<int>("byteRate");
     QTest::addColumn<int>("seconds");
-    QTest::addColumn<QString>("sixteenBytes");
+    QTest::addColumn<QByteArray>("sixteenBytes");
+    QTest::addColumn<QString>("shownBytes");
 
+    const QByteArray line = "0123456789:;=?@\n"_ba;
     struct Row
     {
         const char *name;
         const char *form;
-        QString sixteenBytes;
+        QString shownBytes;
     };
     const Row rows[] = {
         {"ASCII", "radioButton_Data_ASCII", u"0123456789:;=?@\n"_s},
@@ -123,12 +125,17 @@ void tst_Flood::leavesTheWindowToItsUser_data()
     };
     for (const Row &row : rows) {
         QTest::addRow("serial, a minute's bytes at once, %s", row.name)
-            << Link::Serial << QByteArray(row.form) << 0 << 60 << row.sixteenBytes;
+            << Link::Serial << QByteArray(row.form) << 0 << 60 << line << row.shownBytes;
         QTest::addRow("serial, four seconds at 115200 baud, %s", row.name)
-            << Link::Serial << QByteArray(row.form) << bytesPerSecond << 4 << row.sixteenBytes;
+            << Link::Serial << QByteArray(row.form) << bytesPerSecond << 4 << line
+            << row.shownBytes;
     }
+    // What a line of another speed may look like: one word.
+    QTest::newRow("serial, a minute's bytes at once, ASCII, no UTF-8")
+        << Link::Serial << QByteArray(rows[0].form) << 0 << 60 << QByteArray(16, '\xFF')
+        << QString(16, QChar::ReplacementCharacter);
     QTest::newRow("TCP/IP, a minute's bytes at once, hexadecimal")
-        << Link::Tcp << QByteArray(rows[1].form) << 0 << 60 << rows[1].sixteenBytes;
+        << Link::Tcp << QByteArray(rows[1].form) << 0 << 60 << line << rows[1].shownBytes;
 }
 
 void tst_Flood::leavesTheWindowToItsUser()
@@ -137,14 +144,14 @@ void tst_Flood::leavesTheWindowToItsUser()
     QFETCH(const QByteArray, form);
     QFETCH(const int, byteRate);
     QFETCH(const int, seconds);
-    QFETCH(const QString, sixteenBytes);
+    QFETCH(const QByteArray, sixteenBytes);
+    QFETCH(const QString, shownBytes);
     const int count = seconds * bytesPerSecond / 16;
-    const QString expected = sixteenBytes.repeated(count);
+    const QString expected = shownBytes.repeated(count);
 
     Flood flood(link, form);
     const AttentionMeter attention;
-    const TirelessSender device(flood.deviceHandle(), "0123456789:;=?@\n"_ba.repeated(count),
-                                byteRate);
+    const TirelessSender device(flood.deviceHandle(), sixteenBytes.repeated(count), byteRate);
     // Its user works on meanwhile.
     QVERIFY(comesTrue([&] { return device.sentCount() > 16 * count / 2; }));
     flood.click("pushButton_Play");
@@ -181,6 +188,9 @@ void tst_Flood::isShownAsSetTextShowsIt_data()
     const QByteArray ascii = "radioButton_Data_ASCII"_ba;
     QTest::newRow("lines") << ascii << "Volume: 64\r\nFolder: 001\r\n"_ba.repeated(4000);
     QTest::newRow("one line") << ascii << "0123456789 "_ba.repeated(9000);
+    QTest::newRow("one word") << ascii << "0123456789ABCDEF"_ba.repeated(6000);
+    QTest::newRow("one word behind lines")
+        << ascii << "Volume: 64\r\n"_ba.repeated(1000) + QByteArray(60'000, '\0');
     QTest::newRow("any bytes") << ascii
                                << "\x00\xFF\xC3\xA9\t\x07&lt;\xE2\x80\xA8"_ba.repeated(4000);
     QTest::newRow("markup from the first line on")

@@ -66,6 +66,9 @@ private slots:
     void clearedTextDoesNotReappear();
     void arrivalAfterClearIsShownAtOnce();
     void goneInThePause();
+    void onlyLongWordsAreWrappedAnywhere_data();
+    void onlyLongWordsAreWrappedAnywhere();
+    void wrapsBetweenWordsAgain();
     void endIsShown_data();
     void endIsShown();
 };
@@ -187,6 +190,53 @@ void tst_ReceivedTextDisplay::goneInThePause()
     showing.arrive(u"B"_s);
     showing.display.reset();
     QVERIFY(!QTest::qWaitFor([&] { return showing.count > 1; }, 300));
+}
+
+void tst_ReceivedTextDisplay::onlyLongWordsAreWrappedAnywhere_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QTextOption::WrapMode>("mode");
+
+    const auto row = [](const char *name, const QString &text, QTextOption::WrapMode mode) {
+        QTest::newRow(name) << text << mode;
+    };
+    const auto betweenWords = QTextOption::WrapAtWordBoundaryOrAnywhere;
+    row("nothing", {}, betweenWords);
+    row("lines", u"Volume: 64\r\n"_s.repeated(2000), betweenWords);
+    row("hexadecimal", u" 3A"_s.repeated(5000), betweenWords);
+    row("a word of several lines", u"x"_s.repeated(4096) + u" OK"_s, betweenWords);
+    row("a word of many lines", u"OK "_s + u"x"_s.repeated(4097), QTextOption::WrapAnywhere);
+    row("zero bytes", QString(5000, QChar::Null), QTextOption::WrapAnywhere);
+}
+
+void tst_ReceivedTextDisplay::onlyLongWordsAreWrappedAnywhere()
+{
+    QFETCH(const QString, text);
+    Showing showing(longTime);
+    showing.arrive(text);
+    QTEST(showing.edit.wordWrapMode(), "mode");
+    QCOMPARE(showing.edit.toPlainText(), QString(text).remove(u'\r'));
+}
+
+void tst_ReceivedTextDisplay::wrapsBetweenWordsAgain()
+{
+    Showing showing(longTime);
+    showing.edit.resize(400, 100);
+    showing.edit.show();
+    const QString word = u"x"_s.repeated(5000);
+    showing.arrive(word);
+    // Without blanks in it, a word is wrapped where it would have been.
+    QTextEdit other;
+    other.resize(400, 100);
+    other.show();
+    other.setText(word);
+    QCOMPARE(showing.edit.document()->size(), other.document()->size());
+
+    showing.text.clear();
+    showing.display->clear();
+    showing.arrive(u"OK"_s);
+    QCOMPARE(showing.edit.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QCOMPARE(showing.edit.toPlainText(), u"OK"_s);
 }
 
 void tst_ReceivedTextDisplay::endIsShown_data()
