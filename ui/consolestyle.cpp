@@ -8,7 +8,6 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QFrame>
-#include <QIcon>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
@@ -28,19 +27,6 @@ QColor grey(const QPalette &palette)
 {
     return DisabledPalette::mixed(palette.color(QPalette::Active, QPalette::ButtonText),
                                   palette.color(QPalette::Active, QPalette::Button), 0.57F);
-}
-
-/// The shape of an icon in one colour, for a disabled button.
-QIcon tinted(const QIcon &icon, QSize size, qreal devicePixelRatio, const QColor &colour)
-{
-    QPixmap pixmap = icon.pixmap(size, devicePixelRatio);
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), colour);
-    painter.end();
-    QIcon result;
-    result.addPixmap(pixmap, QIcon::Disabled);
-    return result;
 }
 
 void drawFocus(QPainter *painter, const QRect &rectangle, const QPalette &palette)
@@ -136,6 +122,28 @@ QPalette ConsoleStyle::knownPalette(const QPalette &palette) const
     QPalette known = m_palettes.at(place);
     known.setCurrentColorGroup(palette.currentColorGroup());
     return known;
+}
+
+QIcon ConsoleStyle::tinted(const QIcon &icon, QSize size, qreal devicePixelRatio,
+                           const QColor &colour) const
+{
+    constexpr qsizetype most = 128; // more than the window has buttons
+    for (const TintedIcon &known : std::as_const(m_tintedIcons)) {
+        if (known.shape == icon.cacheKey() && known.size == size
+            && qFuzzyCompare(known.devicePixelRatio, devicePixelRatio) && known.colour == colour)
+            return known.icon;
+    }
+    QPixmap pixmap = icon.pixmap(size, devicePixelRatio);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), colour);
+    painter.end();
+    QIcon result;
+    result.addPixmap(pixmap, QIcon::Disabled);
+    if (m_tintedIcons.size() == most)
+        m_tintedIcons.clear();
+    m_tintedIcons.append({icon.cacheKey(), size, devicePixelRatio, colour, result});
+    return result;
 }
 
 void ConsoleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include <QColor>
+#include <QIcon>
 #include <QList>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QSize>
 
 /// The application's style with what this window's parts want otherwise. It is set on single
 /// widgets: children do not take it over.
@@ -16,7 +19,8 @@ class ConsoleStyle : public QProxyStyle
 public:
     ConsoleStyle();
 
-    /// A disabled button's picture is grey and can still be made out.
+    /// A disabled button's picture is grey and can still be made out. It is made once: Qt keeps a
+    /// picture for each icon that it meets, and its name for longer.
     /// A list whose current text is longer than the room shows its beginning and its end.
     /// A text that takes the keyboard focus shows it.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -38,5 +42,18 @@ private:
     /// The first palette of these colours; it and its copies share their identity.
     QPalette knownPalette(const QPalette &palette) const;
 
+    /// The shape of an icon in one colour, for a disabled button.
+    QIcon tinted(const QIcon &icon, QSize size, qreal devicePixelRatio, const QColor &colour) const;
+
+    struct TintedIcon
+    {
+        qint64 shape; ///< cache key of the icon
+        QSize size;
+        qreal devicePixelRatio;
+        QColor colour;
+        QIcon icon;
+    };
+
     mutable QList<QPalette> m_palettes;
+    mutable QList<TintedIcon> m_tintedIcons;
 };

@@ -19,6 +19,8 @@
 
 #include <cmath>
 
+#include <malloc.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -183,6 +185,8 @@ private slots:
     void addressIsReadable();
     void noteIsReadable_data();
     void noteIsReadable();
+
+    void drawingKeepsNothing();
 };
 
 void tst_Controls::initTestCase()
@@ -556,6 +560,31 @@ void tst_Controls::noteIsReadable()
         QVERIFY(contrast(console.find<QLabel>("label_Comments")) >= 4.5);
     }
     QApplication::setPalette(usual);
+}
+
+void tst_Controls::drawingKeepsNothing()
+{
+    ConsoleWindow console;
+    // Disabled buttons, shown lists and the boxes of the address, each drawn anew.
+    const auto drawAllModels = [&] {
+        const int count = console.find<QComboBox>("comboBox_Player")->count();
+        for (int row = 0; row < count; ++row) {
+            console.selectModel(row);
+            QCoreApplication::processEvents();
+            console.window.repaint();
+        }
+    };
+    const auto usedMemory = [] {
+        const struct mallinfo2 info = ::mallinfo2();
+        return qint64(info.uordblks) + qint64(info.hblkhd);
+    };
+    for (int round = 0; round < 2; ++round)
+        drawAllModels();
+    const qint64 before = usedMemory();
+    for (int round = 0; round < 10; ++round)
+        drawAllModels();
+    const qint64 grown = usedMemory() - before;
+    QVERIFY2(grown < 262'144, qPrintable(QString::number(grown)));
 }
 
 TESSALY_TEST_MAIN(tst_Controls)
