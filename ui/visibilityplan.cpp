@@ -3,6 +3,8 @@
 
 #include "ui/visibilityplan.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLayout>
 #include <QSet>
 #include <QWidget>
@@ -54,7 +56,10 @@ void VisibilityPlan::carryOut()
         stopLayouts(widget, stopped);
         widget->setVisible(visible);
     }
-    for (QLayout *layout : std::as_const(stopped))
+    for (QLayout *layout : std::as_const(stopped)) {
         layout->setEnabled(true);
+        // A panel that was shown meanwhile has missed its turn, and asks for no other one.
+        QCoreApplication::postEvent(layout->parentWidget(), new QEvent(QEvent::LayoutRequest));
+    }
     m_decisions.clear();
 }

@@ -61,6 +61,7 @@ private slots:
     void whatStaysIsLeftAlone();
     void hiddenBeforeTheWindowIsShown();
     void layoutsFollow();
+    void panelComesWithItsContent();
     void planIsEmptyAfterwards();
 };
 
@@ -130,6 +131,24 @@ void tst_VisibilityPlan::layoutsFollow()
     QTRY_VERIFY(panel.second.y() > panel.first.y() + panel.first.height());
 
     plan.hide({&panel.first});
+    plan.carryOut();
+    QTRY_COMPARE(panel.second.y(), panel.inner.contentsMargins().top());
+}
+
+// The panel keeps its size, so nothing but its own layout tells it that its content is another one.
+void tst_VisibilityPlan::panelComesWithItsContent()
+{
+    Panel panel;
+    panel.panel.setFixedHeight(100);
+    panel.window.show();
+    QTRY_VERIFY(panel.second.y() > panel.first.y());
+    VisibilityPlan plan;
+    plan.hide({&panel.panel});
+    plan.carryOut();
+    panel.first.setText(QStringLiteral("another"));
+    QCoreApplication::sendPostedEvents(); // not laid out, as it is hidden, and not asked for again
+    plan.hide({&panel.first});
+    plan.show({&panel.panel});
     plan.carryOut();
     QTRY_COMPARE(panel.second.y(), panel.inner.contentsMargins().top());
 }
