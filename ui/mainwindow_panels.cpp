@@ -353,19 +353,16 @@ void MainWindow::reserveFirmwareNoteRoom()
     width = qMax(width, frame->minimumWidth() - 2 * frame->frameWidth() - margins.left()
                             - margins.right());
 
-    QStringList versions;
+    // The notes differ in the version alone: the widest takes the most lines.
+    const QFontMetrics metrics = m_ui->label_Comments->fontMetrics();
+    QString widest;
     for (const DeviceModel &model : std::as_const(deviceCatalogue)) {
-        if (!model.firmwareVersion.isEmpty())
-            versions.append(model.firmwareVersion);
+        if (metrics.horizontalAdvance(model.firmwareVersion) > metrics.horizontalAdvance(widest))
+            widest = model.firmwareVersion;
     }
-    versions.removeDuplicates();
-    int height = 0;
-    for (const QString &version : std::as_const(versions)) {
-        const QRect room = m_ui->label_Comments->fontMetrics().boundingRect(
-            QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(version));
-        height = qMax(height, room.height());
-    }
-    m_ui->label_Comments->setMinimumHeight(height);
+    const QRect room
+        = metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, firmwareNote(widest));
+    m_ui->label_Comments->setMinimumHeight(room.height());
 }
 
 void MainWindow::on_comboBox_Source_Of_Playback_activated(int index)
