@@ -10,7 +10,6 @@
 #include <QFrame>
 #include <QPainter>
 #include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
 #include <QStyleOptionSpinBox>
 
 namespace {
@@ -78,18 +77,9 @@ void ConsoleStyle::drawControl(ControlElement element, const QStyleOption *optio
         QProxyStyle::drawControl(element, &disabled, painter, widget);
         return;
     }
-    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (element != CE_ComboBoxLabel || !list) {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        if (element == CE_ShapedFrame && option->state.testFlag(State_HasFocus))
-            drawFocus(painter, option->rect, option->palette);
-        return;
-    }
-    const int room = subControlRect(CC_ComboBox, list, SC_ComboBoxEditField, widget).width();
-    QStyleOptionComboBox elided(*list);
-    // The styles leave a pixel free on both sides of the text.
-    elided.currentText = list->fontMetrics.elidedText(list->currentText, Qt::ElideMiddle, room - 2);
-    QProxyStyle::drawControl(element, &elided, painter, widget);
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_ShapedFrame && option->state.testFlag(State_HasFocus))
+        drawFocus(painter, option->rect, option->palette);
 }
 
 void ConsoleStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,

@@ -21,7 +21,6 @@ public:
 
     /// A disabled button's picture is grey and can still be made out. It is made once: Qt keeps a
     /// picture for each icon that it meets, and its name for longer.
-    /// A list whose current text is longer than the room shows its beginning and its end.
     /// A text that takes the keyboard focus shows it.
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;

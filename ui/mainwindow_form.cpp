@@ -7,11 +7,9 @@
 #include "ui/consolestyle.h"
 #include "ui/contentscroller.h"
 #include "ui/disabledpalette.h"
-#include "ui/fulltexttip.h"
 #include "ui_mainwindow.h"
 
 #include <QFontDatabase>
-#include <QStringListModel>
 
 // What Designer's file cannot say.
 void MainWindow::completeForm()
@@ -26,14 +24,6 @@ void MainWindow::completeForm()
             frame->setStyle(style);
         }
     }
-    const QList<QComboBox *> lists = m_ui->centralWidget->findChildren<QComboBox *>();
-    for (QComboBox *list : lists) {
-        list->setStyle(style);
-        // Their rows are texts, up to a thousand. A list has a model for more than that by itself,
-        // which takes ten times as long to fill.
-        list->setModel(new QStringListModel(list));
-    }
-    new FullTextTip(lists, this);
     const QList<QAbstractButton *> buttons = m_ui->centralWidget->findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons)
         button->setStyle(style);

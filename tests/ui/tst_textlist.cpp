@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The Tessaly developers
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/testmain.h"
+#include "ui/textlist.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString longText
+    = u"Triggering of the secondary volume (Volume 2) of the player in the hall"_s;
+
+/// A list of its own window, 160 pixels wide.
+struct ShownList
+{
+    explicit ShownList(const QStringList &texts)
+    {
+        list.addItems(texts);
+        list.setToolTip(u"Pick <one>"_s);
+        list.resize(160, list.sizeHint().height());
+        list.show();
+    }
+
+    QString toolTip()
+    {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, list.rect().center(),
+                         list.mapToGlobal(list.rect().center()));
+        QCoreApplication::sendEvent(&list, &event);
+        return QToolTip::text();
+    }
+
+    TextList list;
+};
+
+} // namespace
+
+class tst_TextList : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void toolTip_data();
+    void toolTip();
+    void longTextShowsItsEnds();
+    void widthDoesNotDependOnTheRows();
+    void widthFollowsTheMinimumContentsLength();
+    void popupIsMadeWhenItIsShown();
+};
+
+void tst_TextList::toolTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("toolTip");
+
+    QTest::newRow("has room") << u"Play"_s << u"Pick <one>"_s;
+    QTest::newRow("has no room") << longText << longText + u"<br/>Pick &lt;one&gt;"_s;
+    QTest::newRow("markup without room")
+        << u"<b>/dev/serial/by-id/usb-adapter-if00-port0</b>"_s
+        << u"&lt;b&gt;/dev/serial/by-id/usb-adapter-if00-port0&lt;/b&gt;<br/>Pick &lt;one&gt;"_s;
+}
+
+void tst_TextList::toolTip()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, toolTip);
+
+    ShownList shown({text});
+    QCOMPARE(shown.toolTip(), toolTip);
+}
+
+void tst_TextList::longTextShowsItsEnds()
+{
+    ShownList cut({longText});
+    const auto picture = [&cut](const QString &text) {
+        cut.list.setItemText(0, text);
+        return cut.list.grab().toImage();
+    };
+    const QImage all = picture(longText);
+    QVERIFY(all != picture(longText.left(longText.size() / 2)));
+    // Other beginnings and other ends are seen, another middle is not.
+    QVERIFY(all != picture(u"X"_s + longText.sliced(1)));
+    QVERIFY(all != picture(longText.chopped(1) + u'X'));
+    QString otherMiddle = longText;
+    otherMiddle.replace(longText.size() / 2, 1, u'X');
+    QCOMPARE(picture(otherMiddle), all);
+}
+
+void tst_TextList::widthDoesNotDependOnTheRows()
+{
+    TextList list;
+    list.setMinimumContentsLength(8);
+    const QSize empty = list.sizeHint();
+    QCOMPARE(list.minimumSizeHint(), empty);
+    list.addItem(longText);
+    QCOMPARE(list.sizeHint(), empty);
+    QCOMPARE(list.minimumSizeHint(), empty);
+}
+
+void tst_TextList::widthFollowsTheMinimumContentsLength()
+{
+    TextList list;
+    list.setMinimumContentsLength(8);
+    const int width = list.sizeHint().width();
+    list.setMinimumContentsLength(18);
+    QCOMPARE(list.sizeHint().width() - width, 10 * list.fontMetrics().horizontalAdvance(u'X'));
+}
+
+void tst_TextList::popupIsMadeWhenItIsShown()
+{
+    ShownList shown({u"1"_s, u"2"_s, u"3"_s});
+    shown.list.setCurrentIndex(1);
+    QVERIFY(!shown.list.findChild<QAbstractItemView *>());
+    shown.list.showPopup();
+    const auto *popup = shown.list.findChild<QAbstractItemView *>();
+    QVERIFY(popup && popup->isVisible());
+    QCOMPARE(popup->model()->rowCount(), 3);
+    QCOMPARE(popup->currentIndex().row(), 1);
+}
+
+TESSALY_TEST_MAIN(tst_TextList)
+
+#include "tst_textlist.moc"
