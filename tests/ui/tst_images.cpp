@@ -271,7 +271,7 @@ void tst_Images::applicationIcon()
         if (QTest::currentTestFailed())
             return;
     }
-    const QList<int> expected{16, 24, 32, 48, 64, 128, 256};
+    const QList<int> expected{16, 24, 32, 48, 64, 128};
     QCOMPARE(sizes, expected);
 }
 
