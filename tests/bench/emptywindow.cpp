@@ -9,6 +9,7 @@ int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
     QMainWindow window;
+    window.resize(640, 798); // pixels of a window are no part of what the console adds to it
     window.show();
     return QApplication::exec();
 }
