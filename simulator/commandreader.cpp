@@ -7,6 +7,8 @@
 #include "protocol/textmessage.h"
 #include "ui/subtitlecodes.h"
 
+#include <QTimeZone>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -72,7 +74,7 @@ void readEpoch(FrameCursor &cursor, DecodedCommand &command)
     qint64 seconds = 0;
     for (int group = 0; group < 5; ++group)
         seconds = seconds * 128 + cursor.takeByte(sevenBits);
-    const QDateTime moment = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    const QDateTime moment = QDateTime::fromSecsSinceEpoch(seconds, QTimeZone::utc());
     command.date = moment.date();
     command.time = moment.time();
 }

@@ -10,6 +10,7 @@
 #include "ui/subtitlecodes.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -106,7 +107,9 @@ bool isUtc(quint32 commandId)
 /// The moment of the examples. Its fields are the same in every time zone.
 QDateTime exampleMoment(quint32 commandId)
 {
-    return {QDate(2026, 3, 7), QTime(14, 5, 9), isUtc(commandId) ? Qt::UTC : Qt::LocalTime};
+    const QDate date(2026, 3, 7);
+    const QTime time(14, 5, 9);
+    return isUtc(commandId) ? QDateTime(date, time, QTimeZone::utc()) : QDateTime(date, time);
 }
 
 QByteArray exampleBody(const DeviceModel &model, const CommandEntry &entry, const Choice &choice,

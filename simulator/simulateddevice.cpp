@@ -6,6 +6,8 @@
 #include "simulator/commandreader.h"
 #include "simulator/framemeaning.h"
 
+#include <QTimeZone>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -251,7 +253,7 @@ bool SimulatedDevice::performSettings(const DecodedCommand &command)
         return true;
     case CommandId::SetUtcEpoch:
     case CommandId::SetUtcFull:
-        setClock(QDateTime(command.date, command.time, Qt::UTC));
+        setClock(QDateTime(command.date, command.time, QTimeZone::utc()));
         return true;
     case CommandId::Ntp:
         m_ntp = command.entry.data.front() != '\0';

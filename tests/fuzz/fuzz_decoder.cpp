@@ -8,6 +8,8 @@
 #include "simulator/simulateddevice.h"
 #include "tests/fuzz/fuzztarget.h"
 
+#include <QTimeZone>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -88,7 +90,7 @@ QByteArrayList pieces(const QList<DecodedFrame> &frames)
 /// The simulated device says and does something sensible with it.
 void checkUse(const DeviceModel &model, SimulatedDevice &device, const DecodedFrame &frame)
 {
-    const QDateTime now(QDate(2026, 3, 7), QTime(14, 5), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 7), QTime(14, 5), QTimeZone::utc());
     const QString line = frameLine(now, model, device.playerId(), frame);
     expect(std::none_of(line.begin(), line.end(), [](QChar c) { return c.unicode() < 0x20; }),
            "a frame is one line of the log");
@@ -123,7 +125,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     expect(!decoder.hasBegunFrame(), "a silent line leaves nothing behind");
 
     QByteArray joined;
-    SimulatedDevice device(model, playerId, QDateTime(QDate(2026, 3, 7), QTime(14, 0), Qt::UTC));
+    SimulatedDevice device(model, playerId,
+                           QDateTime(QDate(2026, 3, 7), QTime(14, 0), QTimeZone::utc()));
     for (const DecodedFrame &frame : std::as_const(frames)) {
         joined += frame.bytes;
         checkUse(model, device, frame);

@@ -5,6 +5,7 @@
 #include "protocol/clockbytes.h"
 
 #include <QTest>
+#include <QTimeZone>
 
 #include <time.h>
 
@@ -36,7 +37,7 @@ QDateTime utc(const QString &text)
     QDateTime moment = QDateTime::fromString(text, u"yyyy-MM-dd HH:mm:ss.zzz"_s);
     if (!moment.isValid())
         moment = QDateTime::fromString(text, u"yyyy-MM-dd HH:mm:ss"_s);
-    moment.setTimeSpec(Qt::UTC);
+    moment.setTimeZone(QTimeZone::utc());
     return moment;
 }
 
@@ -141,7 +142,7 @@ void tst_ClockBytes::epoch()
 
     for (const char *zone : {farEast, greenwich, farWest}) {
         setZone(zone);
-        const QDateTime moment = QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+        const QDateTime moment = QDateTime::fromMSecsSinceEpoch(milliseconds, QTimeZone::utc());
         QCOMPARE(hex(clockBytes(CommandId::SetUtcEpoch, moment)), bytes);
         QCOMPARE(hex(clockBytes(CommandId::SetUtcEpoch, moment.toLocalTime())), bytes);
     }

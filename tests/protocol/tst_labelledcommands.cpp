@@ -5,6 +5,7 @@
 #include "protocol/labelledcommands.h"
 
 #include <QTest>
+#include <QTimeZone>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,7 +51,7 @@ const TransportKind transports[] = {TransportKind::Serial, TransportKind::TcpIp}
 /// 2026-03-07 09:05:30 UTC, which is its local time as well, as main() sets the zone.
 QDateTime moment()
 {
-    return QDateTime(QDate(2026, 3, 7), QTime(9, 5, 30), Qt::UTC);
+    return QDateTime(QDate(2026, 3, 7), QTime(9, 5, 30), QTimeZone::utc());
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFrame>
 #include <QTcpSocket>
+#include <QTimeZone>
 
 #include <functional>
 #include <memory>
@@ -239,7 +240,7 @@ QStringList texts(const QComboBox *list)
 
 QDateTime utc(int year, int month, int day, int hour, int minute, int second)
 {
-    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
+    return QDateTime(QDate(year, month, day), QTime(hour, minute, second), QTimeZone::utc());
 }
 
 CommandEntry entry(const QString &label, quint32 id, quint8 code, const QByteArray &data,
