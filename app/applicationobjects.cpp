@@ -40,5 +40,5 @@ void setApplicationIdentity()
     QCoreApplication::setApplicationName(u"Tessaly"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSALY_VERSION));
     QCoreApplication::setOrganizationName(u"Ambrette"_s);
-    QCoreApplication::setOrganizationDomain(u"https://www.ambrette.example/"_s);
+    QCoreApplication::setOrganizationDomain(QStringLiteral(TESSALY_WEBSITE));
 }

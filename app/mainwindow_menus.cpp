@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView supportAddress("support@ambrette.example");
+constexpr QLatin1StringView supportAddress(TESSALY_SUPPORT_ADDRESS);
 
 } // namespace
 
