@@ -46,6 +46,6 @@ extern bool sentBytesShownInHex;
 /// The moment that the clock commands send: the computer's clock, unless a test sets another.
 extern std::function<QDateTime()> currentMoment;
 
-/// Name, version and maker of the program, for the settings folder and the texts that show them.
+/// Name, version and maker of the console, for the settings folder and the texts that show them.
 /// To be called before the application object is created.
 void setApplicationIdentity();

@@ -6,6 +6,9 @@
 #include "app/applicationobjects.h"
 
 #include <QCoreApplication>
+#include <QTextStream>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -60,6 +63,11 @@ QString dataFormLine(std::optional<DataForm> form)
     return QString::number(dataDecCode);
 }
 
+QString addressLine(std::optional<int> part)
+{
+    return QString::number(part.value_or(0));
+}
+
 QString orPlaceholder(const QString &text)
 {
     return text.isEmpty() ? configPlaceholder : text;
@@ -83,10 +91,10 @@ QStringList configLines(const SavedSettings &settings)
         u"*** Default Baudrate:"_s,
         orPlaceholder(settings.baudRate),
         u"*** Default IP Address:"_s,
-        QString::number(settings.address[0]),
-        QString::number(settings.address[1]),
-        QString::number(settings.address[2]),
-        QString::number(settings.address[3]),
+        addressLine(settings.address[0]),
+        addressLine(settings.address[1]),
+        addressLine(settings.address[2]),
+        addressLine(settings.address[3]),
         u"*** Default Auto-connection:"_s,
         settings.autoConnection ? u"1"_s : u"0"_s,
         u"*** Default Player ID:"_s,
@@ -150,4 +158,33 @@ std::optional<DataForm> dataFormFromLine(const QString &line)
     default:
         return std::nullopt;
     }
+}
+
+std::optional<SavedSettings> settingsFromConfig(const QByteArray &bytes)
+{
+    QTextStream stream(bytes);
+    if (!isConfigHead(stream.readLine()))
+        return std::nullopt;
+    stream.readLine(); // title
+    stream.readLine(); // program that wrote the file
+
+    // A value stands below its label; behind the end of a cut file all lines are empty.
+    const auto labelledLine = [&stream] {
+        stream.readLine();
+        return stream.readLine();
+    };
+
+    SavedSettings settings;
+    settings.language = languageFromLine(labelledLine());
+    settings.model = labelledLine();
+    settings.port = labelledLine();
+    settings.baudRate = labelledLine();
+    stream.readLine(); // label of the four address lines
+    std::ranges::generate(settings.address,
+                          [&stream] { return addressPartFromLine(stream.readLine()); });
+    settings.autoConnection = autoConnectionFromLine(labelledLine());
+    settings.playerId = labelledLine();
+    settings.sentForm = sentFormFromLine(labelledLine());
+    settings.dataForm = dataFormFromLine(labelledLine());
+    return settings;
 }

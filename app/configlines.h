@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -20,14 +21,15 @@ enum class DataForm { Ascii, Hex, Dec };
 /// files that the program writes have less than 1 KiB, and this much is still read in no time.
 constexpr qint64 configSizeLimit = 4 << 20;
 
-/// What the window saves. An empty text or option is written as the placeholder "(default)".
+/// What the window saves. An empty text or option is written as the placeholder "(default)", and a
+/// missing part of the address as 0. Read back, a placeholder is a text like any other.
 struct SavedSettings
 {
     LanguageChoice language = LanguageChoice::Default;
     QString model;
     QString port;
     QString baudRate;
-    std::array<int, 4> address = {};
+    std::array<std::optional<int>, 4> address = {0, 0, 0, 0}; ///< each 0 to 255
     bool autoConnection = false;
     QString playerId;
     std::optional<SentForm> sentForm;
@@ -40,6 +42,10 @@ QStringList configLines(const SavedSettings &settings);
 /// Whether a file that begins with this line is one of ours: it contains magic and format version,
 /// anywhere.
 bool isConfigHead(const QString &line);
+
+/// What a file of these bytes says; nothing when it is none of ours. Of a cut file, the lines that
+/// are missing count as empty.
+std::optional<SavedSettings> settingsFromConfig(const QByteArray &bytes);
 
 /// \name What a value line means
 /// A line that means nothing, the empty line of a cut file included, gives the default or no value.

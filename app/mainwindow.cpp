@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 
 #include "app/applicationobjects.h"
+#include "app/configfile.h"
 #include "link/linkwatcher.h"
 #include "link/serialsettings.h"
 #include "ui_mainwindow.h"
@@ -11,7 +12,7 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QDir>
-#include <QStandardPaths>
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,10 +78,8 @@ void MainWindow::applyStartupDefaults()
 
 void MainWindow::setConfigFilePath()
 {
-    const QDir directory(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
-    configFilePath
-        = directory.absoluteFilePath(QCoreApplication::applicationName() + configFileSuffix);
-    directory.mkpath(u"."_s);
+    configFilePath = usualConfigFilePath();
+    QFileInfo(configFilePath).dir().mkpath(u"."_s);
 }
 
 void MainWindow::connectLinkSignals()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/applicationobjects.h"
-#include "app/configlines.h"
+#include "app/configfile.h"
 #include "app/mainwindow.h"
 #include "ui_mainwindow.h"
 
@@ -93,58 +93,42 @@ void MainWindow::loadConfig(QString path)
     if (path.isEmpty())
         path = pathBesideProgram();
 
-    // The start waits for nobody who may or may not write into a pipe or a terminal.
-    if (!QFileInfo(path).isFile())
+    const std::optional<SavedSettings> settings = readConfigFile(path);
+    if (!settings)
         return;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return;
-    const QByteArray bytes = file.read(configSizeLimit);
-    QTextStream stream(bytes);
-    if (!isConfigHead(stream.readLine()))
-        return;
-    stream.readLine(); // title
-    stream.readLine(); // program that wrote the file
 
-    // A value stands below its label; behind the end of a cut file all lines are empty.
-    const auto labelledLine = [&stream] {
-        stream.readLine();
-        return stream.readLine();
-    };
+    m_ui->action_Default->setChecked(settings->language == LanguageChoice::Default);
+    m_ui->action_English->setChecked(settings->language == LanguageChoice::English);
+    m_ui->action_French->setChecked(settings->language == LanguageChoice::French);
 
-    const LanguageChoice language = languageFromLine(labelledLine());
-    m_ui->action_Default->setChecked(language == LanguageChoice::Default);
-    m_ui->action_English->setChecked(language == LanguageChoice::English);
-    m_ui->action_French->setChecked(language == LanguageChoice::French);
-
-    const int modelRow = selectText(m_ui->comboBox_Player, labelledLine());
+    const int modelRow = selectText(m_ui->comboBox_Player, settings->model);
     if (modelRow >= 0) {
         hideCommandPanels();
         on_comboBox_Player_activated(modelRow);
     }
-    selectText(m_ui->comboBox_Port, labelledLine());
-    selectText(m_ui->comboBox_Baudrate, labelledLine());
+    selectText(m_ui->comboBox_Port, settings->port);
+    selectText(m_ui->comboBox_Baudrate, settings->baudRate);
 
-    stream.readLine(); // label of the four address lines
-    for (QSpinBox *box : addressBoxes()) {
-        if (const auto part = addressPartFromLine(stream.readLine()))
-            box->setValue(*part);
+    const auto boxes = addressBoxes();
+    for (size_t i = 0; i < boxes.size(); ++i) {
+        if (const auto part = settings->address.at(i))
+            boxes.at(i)->setValue(*part);
     }
 
-    if (autoConnectionFromLine(labelledLine()))
+    if (settings->autoConnection)
         m_ui->checkBox_Auto_connection->setChecked(true);
 
     // The player ID is looked up among the models, deliberately: it is in effect never restored.
-    selectText(m_ui->comboBox_Player, labelledLine());
+    selectText(m_ui->comboBox_Player, settings->playerId);
 
-    if (const auto form = sentFormFromLine(labelledLine())) {
-        const bool hex = *form == SentForm::Hex;
+    if (settings->sentForm) {
+        const bool hex = *settings->sentForm == SentForm::Hex;
         (hex ? m_ui->radioButton_Sent_Hex : m_ui->radioButton_Sent_Dec)->setChecked(true);
         sentBytesShownInHex = hex;
     }
 
-    if (const auto form = dataFormFromLine(labelledLine())) {
-        switch (*form) {
+    if (settings->dataForm) {
+        switch (*settings->dataForm) {
         case DataForm::Ascii:
             m_ui->radioButton_Data_ASCII->setChecked(true);
             break;

@@ -43,12 +43,7 @@ bool MainWindow::openSerialPort(int baudRate, const QString &portName)
     if (serialPort->isOpen())
         return false;
 
-    serialPort->setPortName(portName);
-    serialPort->setBaudRate(baudRate);
-    serialPort->setDataBits(QSerialPort::Data8);
-    serialPort->setParity(QSerialPort::NoParity);
-    serialPort->setStopBits(QSerialPort::OneStop);
-    serialPort->setFlowControl(QSerialPort::NoFlowControl);
+    applyLineSettings(portName, baudRate, *serialPort);
     if (serialPort->open(QIODevice::ReadWrite))
         return true;
 

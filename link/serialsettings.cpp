@@ -3,6 +3,7 @@
 
 #include "link/serialsettings.h"
 
+#include <QSerialPort>
 #include <QSerialPortInfo>
 #include <QtGlobal>
 
@@ -23,6 +24,16 @@ qint32 acceptedBaudRate(qint32 baudRate)
     default:
         return 9600;
     }
+}
+
+void applyLineSettings(const QString &name, qint32 baudRate, QSerialPort &port)
+{
+    port.setPortName(name);
+    port.setBaudRate(baudRate);
+    port.setDataBits(QSerialPort::Data8);
+    port.setParity(QSerialPort::NoParity);
+    port.setStopBits(QSerialPort::OneStop);
+    port.setFlowControl(QSerialPort::NoFlowControl);
 }
 
 const char *serialErrorMessage(int error)

@@ -54,6 +54,8 @@ QString nameOf(std::optional<int> number)
     return number ? QString::number(*number) : u"none"_s;
 }
 
+using Address = std::array<std::optional<int>, 4>;
+
 template<typename T>
 SavedSettings settingsWith(T SavedSettings::*member, const T &value)
 {
@@ -118,6 +120,9 @@ private slots:
     void sentForm();
     void dataForm_data();
     void dataForm();
+    void read();
+    void readCutShort();
+    void readForeign();
 };
 
 void tst_configlines::initTestCase()
@@ -153,10 +158,10 @@ void tst_configlines::written_data()
     row("port empty", 9, u"(default)"_s, settingsWith(&SavedSettings::port, u""_s));
     row("baud rate", 11, u"115200"_s, settingsWith(&SavedSettings::baudRate, u"115200"_s));
     row("baud rate empty", 11, u"(default)"_s, settingsWith(&SavedSettings::baudRate, u""_s));
-    row("address 1", 13, u"192"_s, settingsWith(&SavedSettings::address, std::array{192, 0, 0, 0}));
-    row("address 2", 14, u"168"_s, settingsWith(&SavedSettings::address, std::array{0, 168, 0, 0}));
-    row("address 3", 15, u"7"_s, settingsWith(&SavedSettings::address, std::array{0, 0, 7, 0}));
-    row("address 4", 16, u"255"_s, settingsWith(&SavedSettings::address, std::array{0, 0, 0, 255}));
+    row("address 1", 13, u"192"_s, settingsWith(&SavedSettings::address, Address{192, 0, 0, 0}));
+    row("address 2", 14, u"168"_s, settingsWith(&SavedSettings::address, Address{0, 168, 0, 0}));
+    row("address 3", 15, u"7"_s, settingsWith(&SavedSettings::address, Address{0, 0, 7, 0}));
+    row("address 4", 16, u"255"_s, settingsWith(&SavedSettings::address, Address{0, 0, 0, 255}));
     row("auto-connection on", 18, u"1"_s, settingsWith(&SavedSettings::autoConnection, true));
     row("auto-connection off", 18, u"0"_s, settingsWith(&SavedSettings::autoConnection, false));
     row("player ID", 20, u"127"_s, settingsWith(&SavedSettings::playerId, u"127"_s));
@@ -455,6 +460,42 @@ void tst_configlines::dataForm()
 {
     QFETCH(QString, line);
     QTEST(nameOf(dataFormFromLine(line)), "form");
+}
+
+void tst_configlines::read()
+{
+    const auto settings = settingsFromConfig("TSY11.00\nx\nx\n*\nFrench\n*\nTempo Deck\n*\n"
+                                             "/dev/ttyUSB0\n*\n38400\n*\n192\n168\n256\n20\n*\n1\n"
+                                             "*\n12\n*\n3\n*\n2\n");
+    QVERIFY(settings);
+    QVERIFY(settings->language == LanguageChoice::French);
+    QCOMPARE(settings->model, u"Tempo Deck"_s);
+    QCOMPARE(settings->port, u"/dev/ttyUSB0"_s);
+    QCOMPARE(settings->baudRate, u"38400"_s);
+    QVERIFY((settings->address == Address{192, 168, std::nullopt, 20}));
+    QVERIFY(settings->autoConnection);
+    QCOMPARE(settings->playerId, u"12"_s);
+    QVERIFY(settings->sentForm == SentForm::Dec);
+    QVERIFY(settings->dataForm == DataForm::Hex);
+}
+
+void tst_configlines::readCutShort()
+{
+    const auto settings = settingsFromConfig("TSY11.00\nx\nx\n*\nEnglish\n*\nTempo Deck");
+    QVERIFY(settings);
+    QVERIFY(settings->language == LanguageChoice::English);
+    QCOMPARE(settings->model, u"Tempo Deck"_s);
+    QCOMPARE(settings->port, QString());
+    QVERIFY(settings->address == Address{});
+    QVERIFY(!settings->autoConnection);
+    QVERIFY(!settings->sentForm);
+    QVERIFY(!settings->dataForm);
+}
+
+void tst_configlines::readForeign()
+{
+    QVERIFY(!settingsFromConfig("TSY12.00\nx\nx\n*\nEnglish\n*\nTempo Deck\n"));
+    QVERIFY(!settingsFromConfig({}));
 }
 
 QTEST_APPLESS_MAIN(tst_configlines)

@@ -5,6 +5,7 @@
 #include "tests/support/testmain.h"
 
 #include <QApplication>
+#include <QSerialPort>
 #include <QSerialPortInfo>
 #include <QTest>
 
@@ -17,6 +18,7 @@ class tst_SerialSettings : public QObject
 private slots:
     void baudRates_data();
     void baudRates();
+    void lineSettings();
     void errorMessages_data();
     void errorMessages();
     void portNames_data();
@@ -41,6 +43,20 @@ void tst_SerialSettings::baudRates()
 {
     QFETCH(const qint32, asked);
     QTEST(acceptedBaudRate(asked), "opened");
+}
+
+void tst_SerialSettings::lineSettings()
+{
+    QSerialPort port;
+    port.setParity(QSerialPort::EvenParity);
+    applyLineSettings(u"/dev/ttyUSB7"_s, 38400, port);
+    QCOMPARE(port.portName(), u"ttyUSB7"_s);
+    QCOMPARE(port.baudRate(QSerialPort::Input), 38400);
+    QCOMPARE(port.baudRate(QSerialPort::Output), 38400);
+    QCOMPARE(port.dataBits(), QSerialPort::Data8);
+    QCOMPARE(port.parity(), QSerialPort::NoParity);
+    QCOMPARE(port.stopBits(), QSerialPort::OneStop);
+    QCOMPARE(port.flowControl(), QSerialPort::NoFlowControl);
 }
 
 void tst_SerialSettings::errorMessages_data()
