@@ -3,15 +3,10 @@
 
 #include "simulator/framelog.h"
 
-#include <QCoreApplication>
-#include <QTextStream>
-
 #include <cstdio>
 
 #include <poll.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -24,27 +19,13 @@ FrameLog::FrameLog()
     static_cast<void>(m_output.open(stdout, QIODevice::WriteOnly));
 }
 
-bool FrameLog::openFile(const QString &path)
-{
-    m_file.setFileName(path);
-    return m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text);
-}
-
 void FrameLog::write(const QString &line)
 {
-    const QByteArray bytes = line.toUtf8() + '\n';
-    for (QFile *file : {&m_output, &m_file}) {
-        if (!file->isOpen() || (file == &m_output && !isReaderReady()))
-            continue;
-        const bool isOut = file->write(bytes) == bytes.size() && file->flush();
-        if (file != &m_file || isOut != m_isFileFailing)
-            continue;
-        m_isFileFailing = !isOut;
-        if (m_isFileFailing) {
-            QTextStream(stderr) << QCoreApplication::applicationName() << ": "_L1
-                                << m_file.fileName() << ": "_L1 << m_file.errorString() << '\n';
-        }
+    if (m_output.isOpen() && isReaderReady()) {
+        m_output.write(line.toUtf8() + '\n');
+        m_output.flush();
     }
+    m_file.write(line);
 }
 
 /// Writing to a full pipe would stop the whole simulation, its end by a signal included.

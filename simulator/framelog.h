@@ -3,13 +3,14 @@
 
 #pragma once
 
+#include "terminal/logfile.h"
+
 #include <QFile>
 #include <QString>
 
 /// The lines that the simulator says, on standard output and in a file if there is one. Each line
-/// is out when write() returns. When the file cannot take it, on a full disk, this is said on
-/// standard error, once until lines are written again. A reader of standard output that stands
-/// still for a second misses the lines until it reads again.
+/// is out when write() returns. A reader of standard output that stands still for a second misses
+/// the lines until it reads again.
 class FrameLog
 {
 public:
@@ -17,7 +18,7 @@ public:
 
     /// Appends to that file from now on.
     /// \return false when it cannot be opened; errorString() says why
-    bool openFile(const QString &path);
+    bool openFile(const QString &path) { return m_file.open(path); }
     QString errorString() const { return m_file.errorString(); }
 
     void write(const QString &line);
@@ -26,7 +27,6 @@ private:
     bool isReaderReady();
 
     QFile m_output;
-    QFile m_file;
-    bool m_isFileFailing = false;
+    LogFile m_file;
     bool m_isReaderStill = false;
 };

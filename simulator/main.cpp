@@ -3,7 +3,7 @@
 
 #include "simulator/framelog.h"
 #include "simulator/simulator.h"
-#include "simulator/terminationsignals.h"
+#include "terminal/terminationsignals.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

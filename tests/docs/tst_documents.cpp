@@ -104,8 +104,9 @@ void tst_Documents::paths()
     QFETCH(QString, document);
 
     static const QRegularExpression code(u"`([^`\\n]+)`"_s);
-    static const QRegularExpression path(u"^(\\.ci|app|catalogue|docs|link|packaging|protocol|"
-                                         "scripts|simulator|tests|translations|ui)/[\\w./-]*$"_s);
+    static const QRegularExpression path(
+        u"^(\\.ci|app|catalogue|docs|link|packaging|protocol|"
+        "scripts|simulator|terminal|tests|translations|ui)/[\\w./-]*$"_s);
     for (const QRegularExpressionMatch &match :
          code.globalMatch(proseOf(textOf(sourceFolder.filePath(document))))) {
         const QString text = match.captured(1);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "simulator/terminationsignals.h"
+#include "terminal/terminationsignals.h"
 
 #include <array>
 #include <csignal>
@@ -13,9 +13,9 @@ namespace {
 // A signal handler may do little more than write to a pipe: {read end, write end}.
 std::array<int, 2> pipeEnds{-1, -1};
 
-extern "C" void writeToPipe(int)
+extern "C" void writeToPipe(int signal)
 {
-    const char byte = 0;
+    const auto byte = static_cast<char>(signal);
     [[maybe_unused]] const ssize_t count = ::write(pipeEnds[1], &byte, 1);
 }
 
@@ -28,7 +28,9 @@ TerminationSignals::TerminationSignals()
     m_notifier = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
         m_notifier->setEnabled(false);
-        emit raised();
+        char signal = 0;
+        if (::read(pipeEnds[0], &signal, 1) == 1)
+            emit raised(signal);
     });
     std::signal(SIGINT, writeToPipe);
     std::signal(SIGTERM, writeToPipe);

@@ -17,7 +17,8 @@ public:
     ~TerminationSignals() override;
 
 signals:
-    void raised();
+    /// \a signal SIGINT, SIGTERM or SIGHUP
+    void raised(int signal);
 
 private:
     std::unique_ptr<QSocketNotifier> m_notifier;
