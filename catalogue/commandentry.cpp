@@ -3,6 +3,8 @@
 
 #include "catalogue/commandentry.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 CommandEntry::CommandEntry(const QString &entryLabel, quint32 id, quint8 codeByte,
                            const QByteArray &dataBytes, const QByteArray &dataMaxBytes)
     : label(entryLabel)
@@ -11,4 +13,9 @@ CommandEntry::CommandEntry(const QString &entryLabel, quint32 id, quint8 codeByt
     , data(dataBytes.constData(), dataBytes.size())
     , dataMax(dataMaxBytes.constData(), dataMaxBytes.size())
 {
+}
+
+QString commandTitle(const CommandEntry &entry)
+{
+    return entry.commandId == CommandId::Request ? "Request: "_L1 + entry.label : entry.label;
 }

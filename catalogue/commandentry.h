@@ -25,3 +25,6 @@ struct CommandEntry
 
     bool operator==(const CommandEntry &) const = default;
 };
+
+/// The label, and in front of that of a request, the name of its list.
+QString commandTitle(const CommandEntry &entry);

@@ -7,6 +7,8 @@
 #include "catalogue/audiomodels.h"
 #include "catalogue/videomodels.h"
 
+#include <algorithm>
+
 DeviceCatalogue buildDeviceCatalogue()
 {
     DeviceCatalogue catalogue;
@@ -27,4 +29,20 @@ DeviceCatalogue buildDeviceCatalogue()
     appendHv0xx(catalogue);
 
     return catalogue;
+}
+
+const DeviceModel *findModel(const DeviceCatalogue &catalogue, const QString &name)
+{
+    const auto found = std::ranges::find_if(catalogue, [&](const DeviceModel &model) {
+        return model.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == catalogue.cend() ? nullptr : &*found;
+}
+
+QStringList modelNames(const DeviceCatalogue &catalogue)
+{
+    QStringList names;
+    for (const DeviceModel &model : catalogue)
+        names.append(model.name);
+    return names;
 }

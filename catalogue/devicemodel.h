@@ -47,3 +47,6 @@ struct DeviceModel
         return protocol == ProtocolKind::Extended && transport == TransportKind::TcpIp;
     }
 };
+
+/// The baud rates for people: "9600, 19200, 38400"; empty for TCP/IP models.
+QString baudRatesText(const DeviceModel &model);

@@ -3,6 +3,8 @@
 
 #include "catalogue/listnumbers.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int highestFolder = 999;
@@ -86,6 +88,21 @@ NumberRange folderRange(const CommandEntry &entry, int bankCount)
         return {};
     const int bankSize = range.last - range.first + 1;
     return {range.first, qMin(bankSize * (bankCount - 1) + range.last, highestFolder)};
+}
+
+QString rangeText(NumberRange range)
+{
+    return range.first == range.last ? QString::number(range.first)
+                                     : u"%1 to %2"_s.arg(range.first).arg(range.last);
+}
+
+std::optional<int> numberInRange(const QString &text, NumberRange range)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || text.contains(u'+') || number < range.first || number > range.last)
+        return std::nullopt;
+    return number;
 }
 
 int numberFromText(const QString &text)

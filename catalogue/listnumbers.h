@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 // Numbers as the panels list them and as the command slots read them back.
 
 /// A range of numbers, both ends included; empty when `last` is below `first`.
@@ -40,6 +42,13 @@ QStringList folderTexts(const CommandEntry &entry, int bankCount);
 
 /// The lowest and the highest of these numbers; empty when there is none.
 NumberRange folderRange(const CommandEntry &entry, int bankCount);
+
+/// The range for people: "0 to 127", or the number alone when it holds but one.
+QString rangeText(NumberRange range);
+
+/// The number that a text shows, base 10; nothing when it is none, or none of the range. "+5" is
+/// none: who writes so may mean five more.
+std::optional<int> numberInRange(const QString &text, NumberRange range);
 
 /// The number that a list text shows, base 10; 0 when it is none or does not fit 32 bits.
 int numberFromText(const QString &text);

@@ -9,6 +9,8 @@
 #include <numeric>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qsizetype mostTexts = 3;
@@ -53,4 +55,10 @@ QStringList nearestTexts(const QString &text, const QStringList &texts)
             nearest.append(candidate);
     }
     return nearest;
+}
+
+QString didYouMean(const QString &text, const QStringList &texts)
+{
+    return u"\"%1\". Did you mean \"%2\"?"_s.arg(text,
+                                                 nearestTexts(text, texts).join(u"\" or \""_s));
 }

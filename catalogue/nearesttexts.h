@@ -9,3 +9,7 @@
 /// them, the most similar first, three at most. Texts that contain it count as near; upper and
 /// lower case are alike.
 QStringList nearestTexts(const QString &text, const QStringList &texts);
+
+/// The rest of an error that begins with "There is no ...": the text in quotes, and the nearest
+/// ones as a question.
+QString didYouMean(const QString &text, const QStringList &texts);

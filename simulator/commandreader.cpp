@@ -3,6 +3,7 @@
 
 #include "simulator/commandreader.h"
 
+#include "catalogue/commandvalues.h"
 #include "protocol/frameencoder.h"
 #include "protocol/textmessage.h"
 #include "ui/subtitlecodes.h"
@@ -189,29 +190,6 @@ void readTextMessage(const DeviceModel &model, const CommandEntry &entry, FrameC
 }
 
 } // namespace
-
-bool takesNumber(const CommandEntry &entry)
-{
-    switch (entry.commandId) {
-    case CommandId::Folder:
-    case CommandId::Volume:
-    case CommandId::ChangeId:
-    case CommandId::SubtitlesByIndex:
-    case CommandId::SourceFolder:
-    case CommandId::SourceSpotReset:
-    case CommandId::SourceWebradio:
-        return true;
-    default:
-        return false;
-    }
-}
-
-NumberRange valueRange(const DeviceModel &model, const CommandEntry &entry)
-{
-    if (entry.commandId == CommandId::Folder)
-        return folderRange(entry, model.folderBankCount);
-    return model.protocol == ProtocolKind::Classic ? byteRange(entry) : wordRange(entry);
-}
 
 CommandReading readCommand(const DeviceModel &model, const CommandEntry &entry,
                            QByteArrayView bytes)

@@ -20,9 +20,3 @@ struct CommandReading
 /// of range, where that leaves no doubt about where the frame ends.
 CommandReading readCommand(const DeviceModel &model, const CommandEntry &entry,
                            QByteArrayView bytes);
-
-/// Whether the user picks a number for the command: a folder, volume, ID, index or reference.
-bool takesNumber(const CommandEntry &entry);
-
-/// The numbers that such a command of the model takes.
-NumberRange valueRange(const DeviceModel &model, const CommandEntry &entry);

@@ -3,8 +3,8 @@
 
 #include "simulator/framemeaning.h"
 
+#include "catalogue/commandvalues.h"
 #include "protocol/bytestext.h"
-#include "simulator/commandreader.h"
 #include "ui/subtitlecodes.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -79,8 +79,6 @@ QString commandMeaning(const DeviceModel &model, const DecodedCommand &command)
         return languageMeaning(command.language);
     case CommandId::SubtitlesByIndex:
         return u"Subtitles %1 (%2)"_s.arg(command.number).arg(label);
-    case CommandId::Request:
-        return "Request: "_L1 + label;
     case CommandId::Relay:
         return label + u' ' + contactsText(command.number);
     case CommandId::SetTime:
@@ -90,7 +88,7 @@ QString commandMeaning(const DeviceModel &model, const DecodedCommand &command)
     case CommandId::SetUtcFull:
         return clockMeaning(command);
     default:
-        return label;
+        return commandTitle(command.entry);
     }
 }
 

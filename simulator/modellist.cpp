@@ -3,7 +3,7 @@
 
 #include "simulator/modellist.h"
 
-#include "simulator/commandreader.h"
+#include "catalogue/commandvalues.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,18 +12,10 @@ namespace {
 constexpr qsizetype lineWidth = 100;
 const QString indent = u"    "_s;
 
-QString rangeText(NumberRange range)
-{
-    return range.first == range.last ? QString::number(range.first)
-                                     : u"%1 to %2"_s.arg(range.first).arg(range.last);
-}
-
 QString commandText(const DeviceModel &model, const CommandEntry &entry)
 {
-    if (entry.commandId == CommandId::Request)
-        return "Request: "_L1 + entry.label;
     if (!takesNumber(entry))
-        return entry.label;
+        return commandTitle(entry);
     QString ranges = rangeText(valueRange(model, entry));
     if (entry.commandId == CommandId::SourceSpotReset)
         ranges += ", option "_L1 + rangeText(byteRange(entry, 2));
@@ -36,10 +28,7 @@ QString linkText(const Endpoint &endpoint)
         const QString port = endpoint.port == 0 ? u"any"_s : QString::number(endpoint.port);
         return u"TCP/IP, port %1, simulated at %2"_s.arg(port, endpoint.address.toString());
     }
-    QStringList rates;
-    for (const qint32 rate : endpoint.model.baudRates)
-        rates.append(QString::number(rate));
-    return u"serial, %1 baud"_s.arg(rates.join(u", "_s));
+    return u"serial, %1 baud"_s.arg(baudRatesText(endpoint.model));
 }
 
 /// The texts behind each other, separated by commas, on indented lines.

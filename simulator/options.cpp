@@ -38,22 +38,6 @@ SimulatorOptions output(const QString &text)
     return options;
 }
 
-/// A number of the range; nothing when the text is none.
-std::optional<int> parsedNumber(const QString &text, NumberRange range)
-{
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    if (!isNumber || number < range.first || number > range.last)
-        return std::nullopt;
-    return number;
-}
-
-QString didYouMean(const QString &text, const QStringList &texts)
-{
-    return u"\"%1\". Did you mean \"%2\"?"_s.arg(text,
-                                                 nearestTexts(text, texts).join(u"\" or \""_s));
-}
-
 } // namespace
 
 SimulatorOptions parseOptions(const QStringList &arguments)
@@ -123,16 +107,11 @@ SimulatorOptions parseOptions(const QStringList &arguments)
     const DeviceCatalogue catalogue = buildDeviceCatalogue();
     if (parser.isSet(protocol))
         return output(protocolPage(catalogue));
-    QStringList names;
-    for (const DeviceModel &candidate : catalogue)
-        names.append(candidate.name);
     QList<DeviceModel> models;
     for (const QString &name : parser.values(model)) {
-        const auto found = std::ranges::find_if(catalogue, [&](const DeviceModel &candidate) {
-            return candidate.name.compare(name, Qt::CaseInsensitive) == 0;
-        });
-        if (found == catalogue.cend())
-            return failure("There is no model "_L1 + didYouMean(name, names));
+        const DeviceModel *found = findModel(catalogue, name);
+        if (!found)
+            return failure("There is no model "_L1 + didYouMean(name, modelNames(catalogue)));
         models.append(*found);
     }
     if (parser.isSet(all) || (parser.isSet(list) && models.isEmpty()))
@@ -144,7 +123,7 @@ SimulatorOptions parseOptions(const QStringList &arguments)
         return failure(u"\"%1\" is no IPv4 address."_s.arg(parser.value(address)));
     std::optional<quint16> givenPort;
     if (parser.isSet(port)) {
-        const std::optional<int> number = parsedNumber(parser.value(port), {0, 65535});
+        const std::optional<int> number = numberInRange(parser.value(port), {0, 65535});
         if (!number)
             return failure(u"\"%1\" is no port, 0 to 65535."_s.arg(parser.value(port)));
         givenPort = static_cast<quint16>(*number);
@@ -163,7 +142,7 @@ SimulatorOptions parseOptions(const QStringList &arguments)
         return failure(u"Other computers may reach %1. Add --allow-remote if you want that."_s.arg(
             remote->address.toString()));
     }
-    const std::optional<int> playerId = parsedNumber(parser.value(id), {0, highestPlayerId});
+    const std::optional<int> playerId = numberInRange(parser.value(id), {0, highestPlayerId});
     if (!playerId)
         return failure(u"\"%1\" is no player ID, 0 to 127."_s.arg(parser.value(id)));
     options.playerId = *playerId;

@@ -3,10 +3,10 @@
 
 #include "simulator/protocolpage.h"
 
+#include "catalogue/commandvalues.h"
 #include "protocol/bytestext.h"
 #include "protocol/frameencoder.h"
 #include "protocol/labelledcommands.h"
-#include "simulator/commandreader.h"
 #include "ui/subtitlecodes.h"
 
 #include <QDateTime>
@@ -249,9 +249,7 @@ QString commandTable(const DeviceModel &model)
             frames.append(u'`' + hexBytesText(shown.frame) + u'`');
             messages.append(u'`' + messageText(shown.body) + u'`');
         }
-        const bool isRequest = entry.commandId == CommandId::Request;
-        QStringList cells{isRequest ? "Request: "_L1 + entry.label : entry.label,
-                          values.join(" ... "_L1), frames.join(" ... "_L1)};
+        QStringList cells{commandTitle(entry), values.join(" ... "_L1), frames.join(" ... "_L1)};
         if (model.connectsOnDemand())
             cells.append(messages.join(" ... "_L1));
         table += row(cells);

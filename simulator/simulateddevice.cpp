@@ -3,7 +3,7 @@
 
 #include "simulator/simulateddevice.h"
 
-#include "simulator/commandreader.h"
+#include "catalogue/commandvalues.h"
 #include "simulator/framemeaning.h"
 
 #include <QTimeZone>

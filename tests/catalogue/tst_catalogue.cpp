@@ -145,6 +145,7 @@ private slots:
     // the list of models
     void modelOrder();
     void lumoBridgeIsNotOffered();
+    void modelsByName();
     void everyBuilderAppendsOneModel_data();
     void everyBuilderAppendsOneModel();
     void tcpPorts_data();
@@ -592,6 +593,20 @@ void tst_Catalogue::modelOrder()
                      u"Vistar Home - HV4xx (Serial)"_s, u"Vistar Home - HV4xx (TCP/IP)"_s,
                      u"HV1xx (Serial) (legacy)"_s, u"HV1xx (TCP/IP) (legacy)"_s,
                      u"Pico Deck (legacy)"_s, u"Card Deck HD (legacy)"_s, u"HV0xx (legacy)"_s}));
+}
+
+void tst_Catalogue::modelsByName()
+{
+    const DeviceCatalogue catalogue = buildDeviceCatalogue();
+    QCOMPARE(findModel(catalogue, u"Ampra One"_s), &catalogue.at(4));
+    QCOMPARE(findModel(catalogue, u"hv0XX (LEGACY)"_s), &catalogue.at(14));
+    QVERIFY(!findModel(catalogue, u"Ampra"_s));
+    QVERIFY(!findModel(catalogue, u"Lumo Bridge"_s));
+    const DeviceCatalogue empty;
+    QVERIFY(!findModel(empty, u"Ampra One"_s));
+    QCOMPARE(modelNames(catalogue).size(), 15);
+    QCOMPARE(modelNames(catalogue).constFirst(), u"Tempo Deck"_s);
+    QCOMPARE(modelNames(catalogue).constLast(), u"HV0xx (legacy)"_s);
 }
 
 void tst_Catalogue::lumoBridgeIsNotOffered()

@@ -56,6 +56,10 @@ private slots:
     void folders();
     void noFolders_data();
     void noFolders();
+    void rangeTexts_data();
+    void rangeTexts();
+    void numbersInRanges_data();
+    void numbersInRanges();
     void numbersFromTexts_data();
     void numbersFromTexts();
 };
@@ -304,6 +308,50 @@ void tst_ListNumbers::noFolders()
     QFETCH(QByteArray, dataMax);
     QFETCH(int, bankCount);
     QCOMPARE(folderTexts(entry(data, dataMax), bankCount), QStringList());
+}
+
+void tst_ListNumbers::rangeTexts_data()
+{
+    QTest::addColumn<NumberRange>("range");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("two ends") << NumberRange{0, 127} << u"0 to 127"_s;
+    QTest::newRow("one number") << NumberRange{5, 5} << u"5"_s;
+    QTest::newRow("below zero") << NumberRange{-3, 0} << u"-3 to 0"_s;
+}
+
+void tst_ListNumbers::rangeTexts()
+{
+    QFETCH(const NumberRange, range);
+    QTEST(rangeText(range), "text");
+}
+
+void tst_ListNumbers::numbersInRanges_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<NumberRange>("range");
+    QTest::addColumn<QString>("number");
+
+    const QString none = u"none"_s;
+    QTest::newRow("the first") << u"1"_s << NumberRange{1, 127} << u"1"_s;
+    QTest::newRow("the last") << u"127"_s << NumberRange{1, 127} << u"127"_s;
+    QTest::newRow("leading zeros") << u"007"_s << NumberRange{0, 999} << u"7"_s;
+    QTest::newRow("below") << u"0"_s << NumberRange{1, 127} << none;
+    QTest::newRow("above") << u"128"_s << NumberRange{1, 127} << none;
+    QTest::newRow("below zero") << u"-1"_s << NumberRange{0, 127} << none;
+    QTest::newRow("five more") << u"+5"_s << NumberRange{0, 127} << none;
+    QTest::newRow("no number") << u"1x"_s << NumberRange{0, 127} << none;
+    QTest::newRow("nothing") << QString() << NumberRange{0, 127} << none;
+    QTest::newRow("more than 32 bits") << u"4294967297"_s << NumberRange{0, 127} << none;
+    QTest::newRow("an empty range") << u"0"_s << NumberRange{} << none;
+}
+
+void tst_ListNumbers::numbersInRanges()
+{
+    QFETCH(const QString, text);
+    QFETCH(const NumberRange, range);
+    const std::optional<int> number = numberInRange(text, range);
+    QTEST(number ? QString::number(*number) : u"none"_s, "number");
 }
 
 void tst_ListNumbers::numbersFromTexts_data()

@@ -71,6 +71,14 @@ private slots:
         QCOMPARE(nearestTexts(text, texts), nearest);
     }
 
+    void question()
+    {
+        QCOMPARE(didYouMean(u"Tempo Dack"_s, {u"Ampra One"_s, u"Tempo Deck"_s}),
+                 u"\"Tempo Dack\". Did you mean \"Tempo Deck\"?"_s);
+        QCOMPARE(didYouMean(u"cat"_s, {u"Cat"_s, u"Wildcat"_s}),
+                 u"\"cat\". Did you mean \"Cat\" or \"Wildcat\"?"_s);
+    }
+
     // What a name may be mistyped as is typed by anybody; it must not take long.
     void longTexts()
     {
