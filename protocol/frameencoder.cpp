@@ -99,6 +99,16 @@ void addToFirstByte(int value, QByteArray &body)
         applyFirstByte(body.front() + value, body);
 }
 
+void applyContacts(const std::bitset<8> &closed, QByteArray &body)
+{
+    addToFirstByte(static_cast<int>(closed.to_ulong()), body);
+}
+
+QByteArray subtitleIndexBytes(int index)
+{
+    return QByteArray(1, static_cast<char>(index));
+}
+
 QByteArray languageCodeBytes(const QString &languageCode)
 {
     QByteArray bytes;

@@ -7,6 +7,8 @@
 
 #include <QByteArray>
 
+#include <bitset>
+
 // The bytes of a command, from a model and plain values. What appends takes a `body` that the
 // caller hands in empty, and writes `code` only when the model has the command.
 
@@ -41,6 +43,13 @@ void applyFirstByte(int value, QByteArray &body);
 
 /// Adds to the first body byte, modulo 256; an empty body stays empty.
 void addToFirstByte(int value, QByteArray &body);
+
+/// Adds the output contacts that are to be closed to the first body byte: contact 1 is bit 0.
+/// \a closed each of the eight contacts, the first one at index 0
+void applyContacts(const std::bitset<8> &closed, QByteArray &body);
+
+/// A subtitle track as the device reads it: its number, modulo 256.
+QByteArray subtitleIndexBytes(int index);
 
 /// A subtitle language as the device reads it: one byte per character, 0 for those above 255.
 QByteArray languageCodeBytes(const QString &languageCode);

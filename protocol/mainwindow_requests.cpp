@@ -57,12 +57,10 @@ void MainWindow::on_pushButton_Relay_Command_clicked()
         m_ui->checkBox_Relay_4, m_ui->checkBox_Relay_5, m_ui->checkBox_Relay_6,
         m_ui->checkBox_Relay_7, m_ui->checkBox_Relay_8,
     };
-    int bit = 1;
-    for (const QCheckBox *relay : relays) {
-        if (relay->isChecked())
-            addToFirstByte(bit, body);
-        bit *= 2;
-    }
+    std::bitset<std::size(relays)> closed;
+    for (size_t i = 0; i < closed.size(); ++i)
+        closed.set(i, relays[i]->isChecked());
+    applyContacts(closed, body);
     sendCommand(code, body);
 }
 
@@ -110,5 +108,5 @@ void MainWindow::on_pushButton_Subtitles_Select_clicked()
         sendCommand(code, languageCodeBytes(value));
     else if (type == subtitleTypeIndex
              && buildCommandFrame(CommandId::SubtitlesByIndex, code, body))
-        sendCommand(code, QByteArray(1, static_cast<char>(numberFromText(value))));
+        sendCommand(code, subtitleIndexBytes(numberFromText(value)));
 }

@@ -5,8 +5,8 @@
 
 #include "catalogue/commandvalues.h"
 #include "protocol/bytestext.h"
+#include "protocol/chosencommand.h"
 #include "protocol/frameencoder.h"
-#include "protocol/labelledcommands.h"
 #include "ui/subtitlecodes.h"
 
 #include <QDateTime>
@@ -84,14 +84,6 @@ A command with a range is shown with its first and its last value. The clock com
 Tessaly shows "Change ID" for serial models alone.
 )"_s;
 
-/// What is chosen for a command that takes a value.
-struct Choice
-{
-    int number = 0;
-    int option = 0;
-    QString language;
-};
-
 struct Example
 {
     QString value; ///< for people
@@ -112,76 +104,11 @@ QDateTime exampleMoment(quint32 commandId)
     return isUtc(commandId) ? QDateTime(date, time, QTimeZone::utc()) : QDateTime(date, time);
 }
 
-QByteArray exampleBody(const DeviceModel &model, const CommandEntry &entry, const Choice &choice,
-                       quint8 &code)
-{
-    QByteArray body;
-    switch (entry.commandId) {
-    case CommandId::Volume: {
-        const int minimum = valueRange(model, entry).first;
-        appendVolumeCommand(model, sliderVolumeByte(minimum, choice.number), code, body);
-        break;
-    }
-    case CommandId::Request:
-        appendRequest(model, entry.label, code, body);
-        break;
-    case CommandId::SourceFolder:
-    case CommandId::SourceSpotReset:
-    case CommandId::SourceWebradio:
-    case CommandId::SourceAlternate:
-        appendPlaybackSource(model, entry.label, {choice.number, choice.option, choice.number},
-                             code, body);
-        break;
-    case CommandId::Folder:
-        appendCommand(model, entry.commandId, code, body);
-        applyFolderNumber(choice.number, code, body);
-        break;
-    case CommandId::ChangeId:
-        appendCommand(model, entry.commandId, code, body);
-        applyFirstByte(choice.number, body);
-        break;
-    case CommandId::Relay:
-        appendCommand(model, entry.commandId, code, body);
-        addToFirstByte(choice.number, body);
-        break;
-    case CommandId::SubtitlesByLanguage:
-        appendCommand(model, entry.commandId, code, body);
-        body = languageCodeBytes(choice.language);
-        break;
-    case CommandId::SubtitlesByIndex:
-        appendCommand(model, entry.commandId, code, body);
-        body = QByteArray(1, static_cast<char>(choice.number));
-        break;
-    case CommandId::PreviousFolder:
-    case CommandId::PreviousFile:
-    case CommandId::Play:
-    case CommandId::Stop:
-    case CommandId::Pause:
-    case CommandId::NextFile:
-    case CommandId::NextFolder:
-    case CommandId::StandbyWakeup:
-    case CommandId::MuteToggle:
-    case CommandId::SubtitlesOff:
-    case CommandId::SubtitlesOn:
-    case CommandId::SubtitlesPrevious:
-    case CommandId::SubtitlesNext:
-    case CommandId::SubtitlesPreviousLoop:
-    case CommandId::SubtitlesNextLoop:
-        appendCommand(model, entry.commandId, code, body);
-        appendPlaybackArguments(model, entry.commandId, body);
-        break;
-    default:
-        appendOtherCommand(model, entry.label, exampleMoment(entry.commandId), code, body);
-        break;
-    }
-    return body;
-}
-
-Example example(const DeviceModel &model, const CommandEntry &entry, const QString &value,
-                const Choice &choice)
+Example example(const DeviceModel &model, const ChosenCommand &command, const QString &value)
 {
     quint8 code = 0;
-    const QByteArray body = exampleBody(model, entry, choice, code);
+    QByteArray body;
+    appendChosenCommand(model, command, exampleMoment(command.entry.commandId), code, body);
     return {value, wireFrame(model, playerIdByteFromText(u"0"_s), code, body), body};
 }
 
@@ -195,26 +122,29 @@ QList<Example> examples(const DeviceModel &model, const CommandEntry &entry)
                                && model.transport == TransportKind::Serial;
         const NumberRange options = hasOption ? byteRange(entry, 2) : NumberRange{0, 0};
         QList<Example> all;
-        for (const Choice &choice :
-             {Choice{numbers.first, options.first, {}}, Choice{numbers.last, options.last, {}}}) {
-            QString value = QString::number(choice.number);
+        for (const ChosenCommand &command :
+             {ChosenCommand{.entry = entry, .number = numbers.first, .option = options.first},
+              ChosenCommand{.entry = entry, .number = numbers.last, .option = options.last}}) {
+            QString value = QString::number(command.number);
             if (hasOption)
-                value += u", option %1"_s.arg(choice.option);
-            all.append(example(model, entry, value, choice));
+                value += u", option %1"_s.arg(command.option);
+            all.append(example(model, command, value));
         }
         return all;
     }
     switch (entry.commandId) {
     case CommandId::SubtitlesByLanguage: {
+        QList<Example> all;
         const QStringList languages = subtitleValues(subtitleTypeIso6392B);
-        return {example(model, entry, languages.first(), {0, 0, languages.first()}),
-                example(model, entry, languages.last(), {0, 0, languages.last()})};
+        for (const QString &language : {languages.first(), languages.last()})
+            all.append(example(model, {.entry = entry, .language = language}, language));
+        return all;
     }
     case CommandId::Relay:
-        return {example(model, entry, u"none"_s, {}),
-                example(model, entry, u"1 to 8"_s, {0xFF, 0, {}})};
+        return {example(model, {.entry = entry}, u"none"_s),
+                example(model, {.entry = entry, .closed = 0xFF}, u"1 to 8"_s)};
     default:
-        return {example(model, entry, {}, {})};
+        return {example(model, {.entry = entry}, {})};
     }
 }
 

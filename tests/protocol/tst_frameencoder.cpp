@@ -67,6 +67,9 @@ private slots:
     void applyFolderNumber();
     void applyFirstByte_data();
     void applyFirstByte();
+    void applyContacts_data();
+    void applyContacts();
+    void subtitleIndexBytes();
     void playerIdByteFromText_data();
     void playerIdByteFromText();
     void wireFrame_data();
@@ -439,6 +442,45 @@ void tst_FrameEncoder::applyFirstByte()
     QByteArray body = QByteArray::fromHex(bodyBefore);
     ::applyFirstByte(value, body);
     QTEST(hex(body), "body");
+}
+
+void tst_FrameEncoder::applyContacts_data()
+{
+    QTest::addColumn<QString>("closed"); // contact 8 first
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QByteArray>("changed");
+
+    QTest::newRow("none") << u"00000000"_s << "0000"_ba
+                          << "00 00"_ba;
+    QTest::newRow("the first") << u"00000001"_s << "0000"_ba
+                               << "01 00"_ba;
+    QTest::newRow("first and last") << u"10000001"_s << "00"_ba
+                                    << "81"_ba;
+    QTest::newRow("all") << u"11111111"_s << "00"_ba
+                         << "FF"_ba;
+    QTest::newRow("what the table holds is added to") << u"00000011"_s << "10"_ba
+                                                      << "13"_ba;
+    QTest::newRow("modulo 256") << u"11111111"_s << "02"_ba
+                                << "01"_ba;
+    QTest::newRow("nothing to write into") << u"11111111"_s << ""_ba
+                                           << ""_ba;
+}
+
+void tst_FrameEncoder::applyContacts()
+{
+    QFETCH(const QString, closed);
+    QFETCH(const QByteArray, body);
+
+    QByteArray changed = QByteArray::fromHex(body);
+    ::applyContacts(std::bitset<8>(closed.toStdString()), changed);
+    QTEST(hex(changed), "changed");
+}
+
+void tst_FrameEncoder::subtitleIndexBytes()
+{
+    QCOMPARE(hex(::subtitleIndexBytes(0)), "00"_ba);
+    QCOMPARE(hex(::subtitleIndexBytes(127)), "7F"_ba);
+    QCOMPARE(hex(::subtitleIndexBytes(256)), "00"_ba);
 }
 
 void tst_FrameEncoder::playerIdByteFromText_data()
