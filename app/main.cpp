@@ -8,9 +8,13 @@
 #include <QScreen>
 #include <QStyle>
 
+using namespace Qt::Literals::StringLiterals;
+
 int main(int argc, char *argv[])
 {
     setApplicationIdentity();
+    // The window's entry in menus and task bars: packaging/tessaly.desktop.in.
+    QGuiApplication::setDesktopFileName(u"tessaly"_s);
     const QApplication application(argc, argv);
 
     MainWindow window;

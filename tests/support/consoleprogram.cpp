@@ -93,16 +93,17 @@ xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name)
 
 } // namespace
 
-ConsoleProgram::ConsoleProgram(const QString &extraPorts)
+ConsoleProgram::ConsoleProgram(const QString &extraPorts, const QString &command,
+                               const QString &folder)
 {
-    const QString path = QStringLiteral(TESSALY_PROGRAM);
+    const QString path = command.isEmpty() ? QStringLiteral(TESSALY_PROGRAM) : command;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, m_home.path());
     environment.insert(u"XDG_DATA_HOME"_s, m_home.path());
     environment.insert(u"TESSALY_EXTRA_PORTS"_s, extraPorts);
     m_process.setProcessEnvironment(environment);
     m_process.setProgram(path);
-    m_process.setWorkingDirectory(QFileInfo(path).path());
+    m_process.setWorkingDirectory(folder.isEmpty() ? QFileInfo(path).path() : folder);
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
     // A test that is killed takes the program with it.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });

@@ -25,7 +25,11 @@ class ConsoleProgram
 {
 public:
     /// \a extraPorts serial ports to offer besides the platform's, separated by ':'
-    explicit ConsoleProgram(const QString &extraPorts);
+    /// \a command, \a folder what is started, and where; the built program in its own folder, which
+    /// holds the translations, if nothing else is given. The command has to end up as the process
+    /// that was started.
+    explicit ConsoleProgram(const QString &extraPorts, const QString &command = {},
+                            const QString &folder = {});
     /// Ends the program if it still runs. Fails the test if it has not ended well by itself.
     ~ConsoleProgram();
     Q_DISABLE_COPY_MOVE(ConsoleProgram)

@@ -16,9 +16,9 @@ constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 
 } // namespace
 
-SimulatorProgram::SimulatorProgram()
+SimulatorProgram::SimulatorProgram(const QString &command)
 {
-    m_process.setProgram(QStringLiteral(TESSALY_SIMULATOR));
+    m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SIMULATOR) : command);
     // A test that is killed takes the program with it.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
@@ -52,7 +52,8 @@ bool SimulatorProgram::start(const QStringList &arguments)
 
 bool SimulatorProgram::runToEnd(const QStringList &arguments)
 {
-    m_process.start(QStringLiteral(TESSALY_SIMULATOR), arguments);
+    m_process.setArguments(arguments);
+    m_process.start();
     const bool isDone = m_process.waitForFinished(timeLimit);
     m_output = m_process.readAllStandardOutput();
     return isDone && m_process.exitStatus() == QProcess::NormalExit;

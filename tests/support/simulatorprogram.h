@@ -10,7 +10,8 @@
 class SimulatorProgram
 {
 public:
-    SimulatorProgram();
+    /// \a command what is started; the built simulator if nothing else is given
+    explicit SimulatorProgram(const QString &command = {});
     /// Ends the simulator if it still runs. Fails the test if one that had started has not ended
     /// with exit code 0, for a crash and for what a sanitizer finds at the end.
     ~SimulatorProgram();
