@@ -7,6 +7,8 @@
 
 #ifdef Q_OS_UNIX
 #include <poll.h>
+#include <sys/ioctl.h>
+#include <termios.h>
 #endif
 
 bool takesBytes(const QSerialPort &port)
@@ -19,4 +21,18 @@ bool takesBytes(const QSerialPort &port)
     Q_UNUSED(port)
     return false;
 #endif
+}
+
+bool isDrained(const QSerialPort &port)
+{
+#ifdef Q_OS_UNIX
+    int waiting = 0;
+    if (::ioctl(port.handle(), TIOCOUTQ, &waiting) == 0 && waiting > 0)
+        return false;
+    // What the device's own few bytes of buffer hold is not counted, and is soon away.
+    ::tcdrain(port.handle());
+#else
+    Q_UNUSED(port)
+#endif
+    return true;
 }

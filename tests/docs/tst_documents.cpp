@@ -106,7 +106,7 @@ void tst_Documents::paths()
     static const QRegularExpression code(u"`([^`\\n]+)`"_s);
     static const QRegularExpression path(
         u"^(\\.ci|app|catalogue|docs|link|packaging|protocol|"
-        "scripts|simulator|terminal|tests|translations|ui)/[\\w./-]*$"_s);
+        "scripts|sender|simulator|terminal|tests|translations|ui)/[\\w./-]*$"_s);
     for (const QRegularExpressionMatch &match :
          code.globalMatch(proseOf(textOf(sourceFolder.filePath(document))))) {
         const QString text = match.captured(1);

@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 PtyPeer::PtyPeer()
-    : m_master(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    : m_master(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
 {
     if (m_master < 0 || ::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0)
         qFatal("no pseudo-terminal to be had");
