@@ -5,6 +5,7 @@
 #include "tests/support/consoleprogram.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/senderprogram.h"
 #include "tests/support/simulatorprogram.h"
 
 #include <QAction>
@@ -98,6 +99,7 @@ private slots:
     void completion();
     void useFromAnotherFolder();
     void otherPlace();
+    void withoutAWindow();
 
 private:
     QString packageFile(const QString &package) const
@@ -175,6 +177,7 @@ void tst_Packages::everyCommandHasItsPage()
 {
     const QStringList commands = filesBelow(u"/usr/bin"_s);
     QVERIFY(commands.contains(u"tessaly"_s));
+    QVERIFY(commands.contains(u"tessaly-send"_s));
     QVERIFY(commands.contains(u"tessaly-simulator"_s));
     QStringList pages = filesBelow(u"/usr/share/man/man1"_s);
     for (QString &page : pages) {
@@ -328,6 +331,21 @@ void tst_Packages::otherPlace()
     QVERIFY(console.looksAsExpected());
     QVERIFY(console.press({u"ctrl+q"_s}));
     QVERIFY(console.endsWell());
+}
+
+void tst_Packages::withoutAWindow()
+{
+    const QTemporaryDir folder;
+    const QString port = folder.filePath(u"deck"_s);
+    SimulatorProgram simulator(m_root.path(u"/usr/bin/tessaly-simulator"_s));
+    QVERIFY(simulator.start({u"--model"_s, u"Tempo Deck"_s, u"--link"_s, port}));
+    SenderProgram sender(m_root.path(u"/usr/bin/tessaly-send"_s));
+    QCOMPARE(sender.run({u"--model"_s, u"Tempo Deck"_s, u"--id"_s, u"0"_s, u"--port"_s, port,
+                         u"folder"_s, u"12"_s}),
+             0);
+    QCOMPARE(sender.errors(), ""_ba);
+    QTRY_COMPARE(simulator.frames(), QStringList{u"Tempo Deck | ID 0 | 80 01 0C | Folder 12"_s});
+    QVERIFY(simulator.stop());
 }
 
 TESSALY_PROGRAM_TEST_MAIN(tst_Packages)

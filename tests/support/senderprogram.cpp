@@ -10,9 +10,9 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-SenderProgram::SenderProgram()
+SenderProgram::SenderProgram(const QString &command)
 {
-    m_process.setProgram(QStringLiteral(TESSALY_SEND));
+    m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SEND) : command);
     // A test that is killed takes the program with it.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }

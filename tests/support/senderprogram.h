@@ -10,7 +10,8 @@
 class SenderProgram
 {
 public:
-    SenderProgram();
+    /// \a command what is started; the built program if nothing else is given
+    explicit SenderProgram(const QString &command = {});
     /// Kills the program if it still runs; a test has then failed already.
     ~SenderProgram();
     Q_DISABLE_COPY_MOVE(SenderProgram)
