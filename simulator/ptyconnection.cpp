@@ -18,8 +18,16 @@ namespace {
 /// Longer than a console may be busy with showing what it has read.
 constexpr auto unreadLimit = 30s;
 /// How long pulling the plug waits for the console to read what was sent before.
-constexpr auto plugLimit = 1s;
+constexpr auto plugLimit = 2s;
 constexpr auto plugPollInterval = 10ms;
+/// What is written counts as unread only when the system has passed it on, which takes up to 10 ms
+/// on a busy machine. So nothing unread has to last.
+constexpr auto quietTime = 100ms;
+
+bool hasPassed(std::chrono::milliseconds limit, const QElapsedTimer &since)
+{
+    return since.hasExpired(limit.count());
+}
 
 } // namespace
 
@@ -89,6 +97,7 @@ void PtyConnection::hangUp()
     if (m_plugTimer.isActive())
         return;
     m_hangingUp.start();
+    m_quiet.start();
     m_plugTimer.start(plugPollInterval);
 }
 
@@ -126,8 +135,9 @@ void PtyConnection::dropUnread()
 
 void PtyConnection::pullPlugWhenRead()
 {
-    const bool isRead = m_unsent.isEmpty() && unreadBytes() == 0;
-    if (!isRead && !m_hangingUp.hasExpired(std::chrono::milliseconds(plugLimit).count()))
+    if (!m_unsent.isEmpty() || unreadBytes() > 0)
+        m_quiet.restart();
+    if (!hasPassed(quietTime, m_quiet) && !hasPassed(plugLimit, m_hangingUp))
         return;
     m_plugTimer.stop();
     m_unreadTimer.stop();

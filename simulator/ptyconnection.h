@@ -53,4 +53,5 @@ private:
     QTimer m_unreadTimer;
     QTimer m_plugTimer;
     QElapsedTimer m_hangingUp;
+    QElapsedTimer m_quiet; ///< since when nothing unread was seen
 };
