@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr std::array signalsToHeed{SIGINT, SIGTERM, SIGHUP};
+
 // A signal handler may do little more than write to a pipe: {read end, write end}.
 std::array<int, 2> pipeEnds{-1, -1};
 
@@ -32,18 +34,18 @@ TerminationSignals::TerminationSignals()
         if (::read(pipeEnds[0], &signal, 1) == 1)
             emit raised(signal);
     });
-    std::signal(SIGINT, writeToPipe);
-    std::signal(SIGTERM, writeToPipe);
-    // A closed terminal ends the program, too, unless it was started to outlive that.
-    if (std::signal(SIGHUP, writeToPipe) == SIG_IGN)
-        std::signal(SIGHUP, SIG_IGN);
+    for (const int number : signalsToHeed) {
+        if (std::signal(number, writeToPipe) == SIG_IGN)
+            std::signal(number, SIG_IGN);
+    }
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
-    std::signal(SIGHUP, SIG_DFL);
+    for (const int number : signalsToHeed) {
+        if (std::signal(number, SIG_DFL) == SIG_IGN)
+            std::signal(number, SIG_IGN);
+    }
     m_notifier.reset();
     for (int &end : pipeEnds) {
         ::close(end);

@@ -7,7 +7,9 @@
 
 #include <memory>
 
-/// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal. One object at a time.
+/// Turns SIGINT, SIGTERM and SIGHUP into a Qt signal. One that was ignored when the program was
+/// started stays so, for jobs in the background and those that outlive their terminal. One object
+/// at a time.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

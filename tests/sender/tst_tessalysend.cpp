@@ -212,6 +212,8 @@ private slots:
 
     void signalBetweenFrames_data();
     void signalBetweenFrames();
+    void ignoredSignal_data();
+    void ignoredSignal();
     void signalWithinAFrame();
     void signalWhileConnecting();
 
@@ -1014,6 +1016,26 @@ void tst_TessalySend::signalBetweenFrames()
     QCOMPARE(sender.waitForEnd(), 128 + signal);
     QVERIFY(areWhole(peer.received(), bytes("85 11 48")));
     QCOMPARE(sender.errors(), QByteArray());
+}
+
+void tst_TessalySend::ignoredSignal_data()
+{
+    signalBetweenFrames_data();
+}
+
+/// As for a job in the background of a script, or one that is to outlive its terminal.
+void tst_TessalySend::ignoredSignal()
+{
+    QFETCH(const int, signal);
+
+    PtyPeer peer;
+    SenderProgram sender;
+    sender.process().setChildProcessModifier([signal] { ::signal(signal, SIG_IGN); });
+    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--gap=500"_s, u"--repeat=3"_s, u"play"_s}));
+    QTRY_COMPARE(peer.received(), bytes("85 02 01"));
+    sender.raise(signal);
+    QCOMPARE(sender.waitForEnd(), 0);
+    QTRY_COMPARE(peer.received(), bytes("85 02 01 85 02 01 85 02 01"));
 }
 
 /// The line is full in the middle of a frame, and the rest of it still goes out.

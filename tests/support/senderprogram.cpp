@@ -13,6 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 SenderProgram::SenderProgram(const QString &command)
 {
     m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SEND) : command);
+    // In the background, tests may have been started with it ignored, and would hand that on.
+    ::signal(SIGINT, SIG_DFL);
     // A test that is killed takes the program with it.
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
