@@ -11,7 +11,7 @@
 /// The models in the order in which the console lists them: row i of the model list is entry i.
 using DeviceCatalogue = QList<DeviceModel>;
 
-/// The fifteen models that the console offers.
+/// The models that the console offers.
 DeviceCatalogue buildDeviceCatalogue();
 
 /// The model of that name, in whatever case it is written; null when there is none. For as long as
