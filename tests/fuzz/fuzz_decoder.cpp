@@ -107,7 +107,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     if (size == 0)
         return 0;
-    const DeviceModel &model = allModels().at((data[0] - 'A' + 256) % allModels().size());
+    const DeviceModel &model
+        = allModels().at(static_cast<quint8>(data[0] - 'A') % allModels().size());
     const QByteArray bytes(reinterpret_cast<const char *>(data) + 1,
                            static_cast<qsizetype>(size - 1));
 
