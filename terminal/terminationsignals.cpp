@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr std::array signalsToHeed{SIGINT, SIGTERM, SIGHUP};
-
 // A signal handler may do little more than write to a pipe: {read end, write end}.
 std::array<int, 2> pipeEnds{-1, -1};
 
@@ -19,6 +17,15 @@ extern "C" void writeToPipe(int signal)
 {
     const auto byte = static_cast<char>(signal);
     [[maybe_unused]] const ssize_t count = ::write(pipeEnds[1], &byte, 1);
+}
+
+/// For the signals that are not ignored.
+void setHandler(void (*handler)(int))
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        if (std::signal(signal, handler) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+    }
 }
 
 } // namespace
@@ -34,18 +41,12 @@ TerminationSignals::TerminationSignals()
         if (::read(pipeEnds[0], &signal, 1) == 1)
             emit raised(signal);
     });
-    for (const int number : signalsToHeed) {
-        if (std::signal(number, writeToPipe) == SIG_IGN)
-            std::signal(number, SIG_IGN);
-    }
+    setHandler(writeToPipe);
 }
 
 TerminationSignals::~TerminationSignals()
 {
-    for (const int number : signalsToHeed) {
-        if (std::signal(number, SIG_DFL) == SIG_IGN)
-            std::signal(number, SIG_IGN);
-    }
+    setHandler(SIG_DFL);
     m_notifier.reset();
     for (int &end : pipeEnds) {
         ::close(end);
