@@ -6,6 +6,7 @@
 #include "tests/support/programtestmain.h"
 #include "tests/support/simulatorprogram.h"
 #include "tests/support/tcppeer.h"
+#include "tests/support/testedprocess.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,9 +17,6 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTextStream>
-
-#include <signal.h>
-#include <sys/prctl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -182,7 +180,7 @@ QImage Photographer::take(const DeviceModel &model, const Look &look)
     QProcess program;
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(path);
-    program.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    bindToTest(program);
     program.start(path + "/tessaly"_L1);
     QImage image = photograph(program.processId());
     if (look.isConnected && !image.isNull()) {

@@ -3,6 +3,7 @@
 
 #include "tests/support/consoleprogram.h"
 
+#include "tests/support/testedprocess.h"
 #include "tests/support/testmain.h"
 
 #include <QClipboard>
@@ -18,8 +19,6 @@
 #include <chrono>
 #include <cstdlib>
 
-#include <signal.h>
-#include <sys/prctl.h>
 #include <xcb/xcb.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -105,8 +104,7 @@ ConsoleProgram::ConsoleProgram(const QString &extraPorts, const QString &command
     m_process.setProgram(path);
     m_process.setWorkingDirectory(folder.isEmpty() ? QFileInfo(path).path() : folder);
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-    // A test that is killed takes the program with it.
-    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    bindToTest(m_process);
 
     qputenv("TESSALY_EXTRA_PORTS", extraPorts.toLocal8Bit());
     forgetSavedSettings();

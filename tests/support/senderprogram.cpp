@@ -3,20 +3,18 @@
 
 #include "tests/support/senderprogram.h"
 
+#include "tests/support/testedprocess.h"
+
 #include <QTest>
 
 #include <signal.h>
-#include <sys/prctl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 SenderProgram::SenderProgram(const QString &command)
 {
     m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SEND) : command);
-    // In the background, tests may have been started with it ignored, and would hand that on.
-    ::signal(SIGINT, SIG_DFL);
-    // A test that is killed takes the program with it.
-    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    bindToTest(m_process);
 }
 
 SenderProgram::~SenderProgram()

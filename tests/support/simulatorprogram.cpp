@@ -3,10 +3,11 @@
 
 #include "tests/support/simulatorprogram.h"
 
+#include "tests/support/testedprocess.h"
+
 #include <QTest>
 
 #include <signal.h>
-#include <sys/prctl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,10 +20,7 @@ constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 SimulatorProgram::SimulatorProgram(const QString &command)
 {
     m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SIMULATOR) : command);
-    // In the background, tests may have been started with it ignored, and would hand that on.
-    ::signal(SIGINT, SIG_DFL);
-    // A test that is killed takes the program with it.
-    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    bindToTest(m_process);
 }
 
 SimulatorProgram::~SimulatorProgram()
