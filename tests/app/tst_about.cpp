@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/testmain.h"
 
 #include "app/aboutwindow.h"
@@ -128,7 +129,7 @@ aboutwindow *tst_About::openDialog()
 
 void tst_About::initTestCase()
 {
-    QVERIFY(QDir::setCurrent(QStringLiteral(TESSALY_PROGRAM_FOLDER)));
+    QVERIFY(QDir::setCurrent(programPath(u"."_s)));
     QVERIFY2(!prettySystemName().isEmpty(), "this system does not say its name");
 }
 
@@ -322,7 +323,7 @@ void tst_About::picturesOnScaledScreen()
     environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
     QProcess program;
     program.setProcessEnvironment(environment);
-    program.start(QCoreApplication::applicationFilePath(), {u"pictures"_s});
+    program.start(QCoreApplication::applicationFilePath(), {runningTest(), u"pictures"_s});
     QVERIFY(program.waitForFinished());
     QVERIFY2(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0,
              program.readAllStandardOutput().constData());
@@ -425,7 +426,7 @@ void tst_About::secondDialogSpeaksThePresentLanguage()
 
 void tst_About::screenshot()
 {
-    const QDir folder(QStringLiteral(TESSALY_SCREENSHOT_FOLDER));
+    const QDir folder(buildPath(u"screenshots/tst_about"_s));
     QVERIFY(folder.mkpath(u"."_s));
     const QString path = folder.filePath(u"about.png"_s);
     const QPixmap shot = openDialog()->grab();
@@ -433,5 +434,5 @@ void tst_About::screenshot()
     QVERIFY(!QImage(path).isNull());
 }
 
-TESSALY_TEST_MAIN(tst_About)
+TESSALY_WINDOW_TEST(tst_About)
 #include "tst_about.moc"

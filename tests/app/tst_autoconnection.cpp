@@ -388,5 +388,5 @@ void tst_autoconnection::emptyCatalogue()
     QVERIFY(m_catcher.messages.isEmpty());
 }
 
-TESSALY_TEST_MAIN(tst_autoconnection)
+TESSALY_WINDOW_TEST(tst_autoconnection)
 #include "tst_autoconnection.moc"

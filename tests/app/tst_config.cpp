@@ -1254,5 +1254,5 @@ void tst_config::fullDisk()
     QCOMPARE(settingsOf(next), newUsersSettings());
 }
 
-TESSALY_TEST_MAIN(tst_config)
+TESSALY_WINDOW_TEST(tst_config)
 #include "tst_config.moc"

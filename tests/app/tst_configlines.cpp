@@ -4,8 +4,7 @@
 #include "app/configlines.h"
 
 #include "app/applicationobjects.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 #include <array>
 #include <optional>
@@ -498,5 +497,5 @@ void tst_configlines::readForeign()
     QVERIFY(!settingsFromConfig({}));
 }
 
-QTEST_APPLESS_MAIN(tst_configlines)
+TESSALY_TEST(tst_configlines)
 #include "tst_configlines.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/testmain.h"
 
@@ -52,7 +53,7 @@ private slots:
 
 void tst_Help::initTestCase()
 {
-    QVERIFY(QDir::setCurrent(QStringLiteral(TESSALY_PROGRAM_FOLDER)));
+    QVERIFY(QDir::setCurrent(programPath(u"."_s)));
 }
 
 void tst_Help::urls_data()
@@ -146,5 +147,5 @@ void tst_Help::failingOpenerIsSilent()
     QVERIFY(console.window.isEnabled());
 }
 
-TESSALY_TEST_MAIN(tst_Help)
+TESSALY_WINDOW_TEST(tst_Help)
 #include "tst_help.moc"

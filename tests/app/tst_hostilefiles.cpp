@@ -3,6 +3,7 @@
 
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/testmain.h"
 
@@ -188,7 +189,7 @@ bool placePipe(const QString &path)
 
 QByteArray frenchFile()
 {
-    return read(QStringLiteral(TESSALY_FRENCH_FILE));
+    return read(programPath(u"LanguageData_fr.qm"_s));
 }
 
 } // namespace
@@ -410,5 +411,5 @@ void tst_HostileFiles::soundTranslation()
     QCOMPARE(window.end(), QString());
 }
 
-TESSALY_TEST_MAIN(tst_HostileFiles)
+TESSALY_WINDOW_TEST(tst_HostileFiles)
 #include "tst_hostilefiles.moc"

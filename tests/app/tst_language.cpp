@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/testmain.h"
@@ -36,9 +37,20 @@ namespace {
 enum Language { English, French };
 
 /// The folder of the French file, where the programs are started.
-const QString programFolder = QStringLiteral(TESSALY_PROGRAM_FOLDER);
-const QString frenchFile = programFolder + u"/LanguageData_fr.qm"_s;
-const QString decoyFile = QStringLiteral(TESSALY_DECOY_FILE);
+QString programFolder()
+{
+    return programPath(u"."_s);
+}
+
+QString frenchFile()
+{
+    return programPath(u"LanguageData_fr.qm"_s);
+}
+
+QString decoyFile()
+{
+    return buildPath(u"tests/app/decoy.qm"_s);
+}
 
 /// Set in a copy of this program that only says what it shows under the locale that it is given.
 constexpr char childVariable[] = "TST_LANGUAGE_CHILD";
@@ -51,7 +63,7 @@ struct GoldenText
 
 QList<GoldenText> goldenTexts()
 {
-    QFile file(QStringLiteral(TESSALY_TEST_DATA "/golden/languages.txt"));
+    QFile file(sourcePath(u"tests/app/golden/languages.txt"_s));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qPrintable(file.fileName()));
     const auto unquoted = [](QStringView cell) {
@@ -157,7 +169,7 @@ class FolderOfItsOwn
 {
 public:
     FolderOfItsOwn() { QDir::setCurrent(m_folder.path()); }
-    ~FolderOfItsOwn() { QDir::setCurrent(programFolder); }
+    ~FolderOfItsOwn() { QDir::setCurrent(programFolder()); }
     Q_DISABLE_COPY_MOVE(FolderOfItsOwn)
 
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
@@ -236,16 +248,16 @@ private slots:
 
 void tst_Language::initTestCase()
 {
-    QVERIFY(QDir::setCurrent(programFolder));
-    QVERIFY2(QFile::exists(frenchFile), qPrintable(frenchFile));
-    QVERIFY2(QFile::exists(decoyFile), qPrintable(decoyFile));
+    QVERIFY(QDir::setCurrent(programFolder()));
+    QVERIFY2(QFile::exists(frenchFile()), qPrintable(frenchFile()));
+    QVERIFY2(QFile::exists(decoyFile()), qPrintable(decoyFile()));
     QVERIFY(goldenTexts().size() > 70);
 }
 
 void tst_Language::cleanup()
 {
     QCoreApplication::removeTranslator(translator);
-    QVERIFY(QDir::setCurrent(programFolder));
+    QVERIFY(QDir::setCurrent(programFolder()));
 }
 
 void tst_Language::formTexts()
@@ -454,7 +466,7 @@ void tst_Language::unusableFile_data()
     QTest::addColumn<QByteArray>("bytes"); // null: there is no file
     QTest::addColumn<QByteArray>("earlier");
 
-    const QByteArray whole = contents(frenchFile);
+    const QByteArray whole = contents(frenchFile());
     const QList<std::pair<const char *, QByteArray>> files = {
         {"missing", QByteArray()},
         {"empty", ""_ba},
@@ -499,7 +511,7 @@ void tst_Language::repairedFileIsReadAgain()
     const FolderOfItsOwn folder;
     choose(console, "action_French");
     QCOMPARE(differences(console, English), QString());
-    folder.write(u"LanguageData_fr.qm"_s, contents(frenchFile));
+    folder.write(u"LanguageData_fr.qm"_s, contents(frenchFile()));
     choose(console, "action_French");
     QCOMPARE(differences(console, French), QString());
 }
@@ -541,9 +553,9 @@ void tst_Language::lookUp()
     const FolderOfItsOwn folder;
     QVERIFY(QDir(folder.path()).mkdir(u"translations"_s));
     for (const QString &name : std::as_const(frenchFiles))
-        QVERIFY(QFile::copy(frenchFile, folder.filePath(name)));
+        QVERIFY(QFile::copy(frenchFile(), folder.filePath(name)));
     for (const QString &name : std::as_const(decoyFiles))
-        QVERIFY(QFile::copy(decoyFile, folder.filePath(name)));
+        QVERIFY(QFile::copy(decoyFile(), folder.filePath(name)));
 
     const ConsoleWindow console;
     choose(console, "action_French");
@@ -600,12 +612,12 @@ void tst_Language::systemLanguage()
     const FolderOfItsOwn folder;
     for (const char *code : {"de", "es", "fr", "it", "nl", "pt"}) {
         const QString name = u"LanguageData_"_s + QString::fromLatin1(code) + u".qm"_s;
-        QVERIFY(QFile::copy(programFolder + u'/' + name, folder.filePath(name)));
+        QVERIFY(QFile::copy(programFolder() + u'/' + name, folder.filePath(name)));
     }
     for (const char *territory : {"de_AT", "de_DE", "en_GB", "en_US", "es_MX", "fr_BE", "fr_CA",
                                   "fr_FR", "it_CH", "nl_BE", "pt_BR", "pt_PT", "sv_SE"}) {
         QVERIFY(QFile::copy(
-            decoyFile,
+            decoyFile(),
             folder.filePath(u"LanguageData_"_s + QString::fromLatin1(territory) + u".qm"_s)));
     }
 
@@ -623,7 +635,7 @@ void tst_Language::systemLanguage()
     QProcess child;
     child.setProcessEnvironment(environment);
     child.setWorkingDirectory(folder.path());
-    child.start(QCoreApplication::applicationFilePath(), QStringList());
+    child.start(QCoreApplication::applicationFilePath(), {runningTest()});
     QVERIFY2(child.waitForFinished(), qPrintable(child.errorString()));
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
 
@@ -725,18 +737,21 @@ void tst_Language::standardButtons()
     QCOMPARE(texts(), english);
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+int runLanguageTest(int argc, char *argv[])
 {
-    const bool isChild = qEnvironmentVariableIsSet(childVariable);
-    const QByteArray lcAll = qgetenv("LC_ALL");
+    if (!qEnvironmentVariableIsSet(childVariable))
+        return runWindowTest<tst_Language>(argc, argv);
+    const QByteArray locale = qgetenv("LC_ALL");
     prepareTestEnvironment();
-    if (isChild)
-        qputenv("LC_ALL", lcAll);
+    qputenv("LC_ALL", locale);
     const QApplication application(argc, argv);
-    if (isChild)
-        return sayTexts();
-    tst_Language test;
-    return QTest::qExec(&test, argc, argv);
+    return sayTexts();
 }
+
+} // namespace
+
+TESSALY_REGISTER_TEST(tst_Language, runLanguageTest)
 
 #include "tst_language.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/ptypeer.h"
+#include "tests/support/testregistry.h"
 #include "tests/support/virtualscreen.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
@@ -416,5 +416,5 @@ void tst_restart::fileWithoutEnd()
     QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(read(path())).value(8))));
 }
 
-QTEST_GUILESS_MAIN(tst_restart)
+TESSALY_TEST(tst_restart)
 #include "tst_restart.moc"

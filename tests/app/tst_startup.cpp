@@ -593,7 +593,10 @@ void tst_Startup::goneWindowLeavesTheLinksOpen()
     QVERIFY(!tcpSocket->isOpen());
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+/// Nothing of the product has run before but what is made before main().
+int runStartupTest(int argc, char *argv[])
 {
     stopRecordingCreations();
     beforeMain.objectsExist = translator && serialPort && tcpSocket;
@@ -602,11 +605,11 @@ int main(int argc, char *argv[])
     beforeMain.textsEmpty = receivedText.isEmpty() && configFilePath.isEmpty();
     beforeMain.catalogueEmpty = deviceCatalogue.isEmpty();
     beforeMain.sentBytesInHex = sentBytesShownInHex;
-
-    prepareTestEnvironment();
-    const QApplication application(argc, argv);
-    tst_Startup test;
-    return QTest::qExec(&test, argc, argv);
+    return runWindowTest<tst_Startup>(argc, argv);
 }
+
+} // namespace
+
+TESSALY_REGISTER_TEST(tst_Startup, runStartupTest)
 
 #include "tst_startup.moc"

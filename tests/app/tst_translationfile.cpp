@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/translationfile.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,18 +12,20 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString frenchPath = QStringLiteral(TESSALY_FRENCH_FILE);
+QString frenchPath()
+{
+    return programPath(u"LanguageData_fr.qm"_s);
+}
 
 QByteArray frenchFile()
 {
-    QFile file(frenchPath);
+    QFile file(frenchPath());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -147,7 +151,7 @@ void tst_TranslationFile::crafted()
 
 void tst_TranslationFile::shipped()
 {
-    const QDir folder = QFileInfo(frenchPath).dir();
+    const QDir folder = QFileInfo(frenchPath()).dir();
     const QStringList names = folder.entryList({u"LanguageData_*.qm"_s});
     QCOMPARE(names.size(), 6);
     for (const QString &name : names)
@@ -197,8 +201,8 @@ void tst_TranslationFile::path()
 {
     QTest::failOnWarning(QRegularExpression(u".*"_s)); // nothing is said of a missing file
     QVERIFY(!isSoundTranslationFile({}));
-    QVERIFY(isSoundTranslationFile(frenchPath));
-    QVERIFY(!isSoundTranslationFile(frenchPath + u".missing"_s));
+    QVERIFY(isSoundTranslationFile(frenchPath()));
+    QVERIFY(!isSoundTranslationFile(frenchPath() + u".missing"_s));
     QVERIFY(!isSoundTranslationFile(QDir::tempPath()));
     QVERIFY(!isSoundTranslationFile(u"/dev/null"_s));
 }
@@ -232,7 +236,7 @@ void tst_TranslationFile::foundAsQtFindsIt()
     QVERIFY(QDir::setCurrent(folder.path()));
     const auto comeBack = qScopeGuard([&] { QDir::setCurrent(before); });
     for (const QString &name : files)
-        QVERIFY(name.endsWith(u'/') ? QDir().mkpath(name) : QFile::copy(frenchPath, name));
+        QVERIFY(name.endsWith(u'/') ? QDir().mkpath(name) : QFile::copy(frenchPath(), name));
 
     QCOMPARE(translationFilePath(u"Data_fr"_s), found);
     QTranslator translator;
@@ -240,5 +244,5 @@ void tst_TranslationFile::foundAsQtFindsIt()
     QCOMPARE(translator.filePath(), found);
 }
 
-QTEST_APPLESS_MAIN(tst_TranslationFile)
+TESSALY_TEST(tst_TranslationFile)
 #include "tst_translationfile.moc"

@@ -68,5 +68,5 @@ void tst_UnknownSystem::aboutSaysSo()
     QCOMPARE(dialog.operatingSystemText(), u"Système d’exploitation inconnu"_s);
 }
 
-TESSALY_TEST_MAIN(tst_UnknownSystem)
+TESSALY_WINDOW_TEST(tst_UnknownSystem)
 #include "tst_unknownsystem.moc"

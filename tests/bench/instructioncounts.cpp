@@ -75,6 +75,9 @@ void InstructionCounts::receivedData()
     QVERIFY(receivedText.size() >= bytes.size());
 }
 
-TESSALY_TEST_MAIN(InstructionCounts)
+int main(int argc, char *argv[])
+{
+    return runWindowTest<InstructionCounts>(argc, argv);
+}
 
 #include "instructioncounts.moc"

@@ -9,12 +9,13 @@
 #include "catalogue/videomodels.h"
 #include "goldentables.h"
 #include "protocol/frameencoder.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 #include <iterator>
@@ -108,7 +109,7 @@ QStringList described(const QList<CommandEntry> &entries)
 
 QString goldenFolder()
 {
-    return QStringLiteral(TESSALY_TEST_DATA) + "/golden"_L1;
+    return sourcePath(u"tests/catalogue/golden"_s);
 }
 
 } // namespace
@@ -1270,6 +1271,6 @@ void tst_Catalogue::lumoBridgeDefinition()
              QStringList{u"Relay / 22 / 25 / 00 00 / 0F 0F"_s});
 }
 
-QTEST_APPLESS_MAIN(tst_Catalogue)
+TESSALY_TEST(tst_Catalogue)
 
 #include "tst_catalogue.moc"

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "catalogue/commandtable.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 #include <algorithm>
 #include <array>
@@ -151,6 +150,6 @@ void tst_CommandTable::noRowsAppendNothing()
     QCOMPARE(model.commands.size(), 0);
 }
 
-QTEST_APPLESS_MAIN(tst_CommandTable)
+TESSALY_TEST(tst_CommandTable)
 
 #include "tst_commandtable.moc"

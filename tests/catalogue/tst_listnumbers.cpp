@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "catalogue/listnumbers.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -386,6 +385,6 @@ void tst_ListNumbers::numbersFromTexts()
     QCOMPARE(numberFromText(text), number);
 }
 
-QTEST_APPLESS_MAIN(tst_ListNumbers)
+TESSALY_TEST(tst_ListNumbers)
 
 #include "tst_listnumbers.moc"

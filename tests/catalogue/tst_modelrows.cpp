@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "catalogue/devicecatalogue.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -43,7 +44,7 @@ void tst_ModelRows::everyModelHasOne()
     QFETCH(const QString, beginning);
     QFETCH(const bool, onlySerial);
 
-    QFile file(QDir(QStringLiteral(TESSALY_TESTS_FOLDER)).filePath(path));
+    QFile file(sourcePath("tests/"_L1 + path));
     QVERIFY2(file.open(QIODevice::ReadOnly | QIODevice::Text), qPrintable(file.fileName()));
     const QString text = QString::fromUtf8(file.readAll());
     QStringList missing;
@@ -56,5 +57,5 @@ void tst_ModelRows::everyModelHasOne()
     QCOMPARE(missing.join(", "_L1), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_ModelRows)
+TESSALY_TEST(tst_ModelRows)
 #include "tst_modelrows.moc"

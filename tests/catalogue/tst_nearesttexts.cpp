@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "catalogue/nearesttexts.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -88,5 +87,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_NearestTexts)
+TESSALY_TEST(tst_NearestTexts)
 #include "tst_nearesttexts.moc"

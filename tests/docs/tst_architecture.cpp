@@ -1,21 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QDir sourceFolder(QStringLiteral(TESSALY_SOURCE_FOLDER));
 
 using Names = QSet<QString>;
 
@@ -102,7 +102,7 @@ private:
 
 void tst_Architecture::initTestCase()
 {
-    m_page = textOf(sourceFolder.filePath(u"docs/architecture.md"_s));
+    m_page = textOf(sourcePath(u"docs/architecture.md"_s));
     for (const QStringList &row : tableOf(m_page, u"| Part | Files | May include |"_s)) {
         Part part{row.value(0), {}, namesOf(row.value(2))};
         const Names patterns = namesOf(row.value(1));
@@ -115,14 +115,14 @@ void tst_Architecture::initTestCase()
     QVERIFY(m_parts.size() > 1);
 
     for (const QFileInfo &folder :
-         sourceFolder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+         QDir(sourcePath(u"."_s)).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
         const QString name = folder.fileName();
         if (name == "tests"_L1 || name.startsWith("build"_L1))
             continue;
         QDirIterator files(folder.filePath(), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext())
-            m_files.append(sourceFolder.relativeFilePath(files.next()));
+            m_files.append(QDir(sourcePath(u"."_s)).relativeFilePath(files.next()));
     }
     m_files.sort();
     QVERIFY(m_files.size() > 100);
@@ -133,13 +133,13 @@ void tst_Architecture::initTestCase()
     static const QRegularExpression formHeader(u"^ui_\\w+\\.h$"_s);
     for (const QString &file : std::as_const(m_files)) {
         const QString part = partOf(file);
-        for (const QRegularExpressionMatch &match :
-             include.globalMatch(textOf(sourceFolder.filePath(file)))) {
+        for (const QRegularExpressionMatch &match : include.globalMatch(textOf(sourcePath(file)))) {
             const QString header = match.captured(1);
             if (formHeader.match(header).hasMatch() && (part == "window"_L1 || part == "app"_L1))
                 continue;
-            const QString included
-                = sourceFolder.exists(header) ? partOf(header) : u"(no file of the product)"_s;
+            const QString included = QDir(sourcePath(u"."_s)).exists(header)
+                                         ? partOf(header)
+                                         : u"(no file of the product)"_s;
             if (included == part)
                 continue;
             m_inclusions[part].insert(included);
@@ -181,7 +181,7 @@ void tst_Architecture::links()
 
     QStringList built;
     for (const QString &line :
-         textOf(QStringLiteral(TESSALY_LINK_LINES)).split(u'\n', Qt::SkipEmptyParts)) {
+         textOf(buildPath(u"tests/docs/linklines.txt"_s)).split(u'\n', Qt::SkipEmptyParts)) {
         const qsizetype end = line.indexOf(u": "_s);
         built.append(lineOf(line.first(end), line.sliced(end + 2)));
     }
@@ -227,5 +227,5 @@ void tst_Architecture::noCircle()
     QCOMPARE(names, QStringList());
 }
 
-QTEST_GUILESS_MAIN(tst_Architecture)
+TESSALY_TEST(tst_Architecture)
 #include "tst_architecture.moc"

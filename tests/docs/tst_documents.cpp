@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QDir sourceFolder(QStringLiteral(TESSALY_SOURCE_FOLDER));
 
 QString textOf(const QString &path)
 {
@@ -24,7 +24,7 @@ QStringList documents()
 {
     QStringList paths;
     for (const QString &folder : {u"."_s, u"docs"_s}) {
-        const QDir directory(sourceFolder.filePath(folder));
+        const QDir directory(sourcePath(folder));
         for (const QString &name : directory.entryList({u"*.md"_s}, QDir::Files, QDir::Name))
             paths.append(QDir::cleanPath(folder + u'/' + name));
     }
@@ -82,16 +82,15 @@ void tst_Documents::links()
     QFETCH(QString, document);
 
     static const QRegularExpression link(u"\\]\\(([^)\\s]+)\\)"_s);
-    const QDir folder = QFileInfo(sourceFolder.filePath(document)).dir();
+    const QDir folder = QFileInfo(sourcePath(document)).dir();
     for (const QRegularExpressionMatch &match :
-         link.globalMatch(proseOf(textOf(sourceFolder.filePath(document))))) {
+         link.globalMatch(proseOf(textOf(sourcePath(document))))) {
         const QString target = match.captured(1);
         if (target.contains("://"_L1))
             continue;
         const QString path = target.section(u'#', 0, 0);
         const QString anchor = target.section(u'#', 1);
-        const QString file
-            = path.isEmpty() ? sourceFolder.filePath(document) : folder.filePath(path);
+        const QString file = path.isEmpty() ? sourcePath(document) : folder.filePath(path);
         QVERIFY2(QFileInfo::exists(file), qPrintable(target));
         if (!anchor.isEmpty())
             QVERIFY2(anchorsOf(textOf(file)).contains(anchor), qPrintable(target));
@@ -108,10 +107,10 @@ void tst_Documents::paths()
         u"^(\\.ci|app|catalogue|docs|link|packaging|protocol|"
         "scripts|sender|simulator|terminal|tests|translations|ui)/[\\w./-]*$"_s);
     for (const QRegularExpressionMatch &match :
-         code.globalMatch(proseOf(textOf(sourceFolder.filePath(document))))) {
+         code.globalMatch(proseOf(textOf(sourcePath(document))))) {
         const QString text = match.captured(1);
         if (path.match(text).hasMatch())
-            QVERIFY2(sourceFolder.exists(text), qPrintable(text));
+            QVERIFY2(QFile::exists(sourcePath(text)), qPrintable(text));
     }
 }
 
@@ -119,13 +118,13 @@ void tst_Documents::picturesAreUsed()
 {
     QString all;
     for (const QString &document : documents())
-        all += textOf(sourceFolder.filePath(document));
+        all += textOf(sourcePath(document));
     const QStringList pictures
-        = QDir(sourceFolder.filePath(u"docs/images"_s)).entryList(QDir::Files, QDir::Name);
+        = QDir(sourcePath(u"docs/images"_s)).entryList(QDir::Files, QDir::Name);
     QVERIFY(!pictures.isEmpty());
     for (const QString &picture : pictures)
         QVERIFY2(all.contains("images/"_L1 + picture), qPrintable(picture));
 }
 
-QTEST_GUILESS_MAIN(tst_Documents)
+TESSALY_TEST(tst_Documents)
 #include "tst_documents.moc"

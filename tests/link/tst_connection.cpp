@@ -1092,5 +1092,5 @@ void tst_Connection::onDemandFrameWithASerialPortOpen()
     QTRY_COMPARE(hex(tcpPeer.received()), "04 41"_ba);
 }
 
-TESSALY_TEST_MAIN(tst_Connection)
+TESSALY_WINDOW_TEST(tst_Connection)
 #include "tst_connection.moc"

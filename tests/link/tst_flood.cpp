@@ -278,5 +278,5 @@ void tst_Flood::fastNetworkDeviceIsReadInPieces()
     QVERIFY(receivedText == QString::fromLatin1(line).repeated(count));
 }
 
-TESSALY_TEST_MAIN(tst_Flood)
+TESSALY_WINDOW_TEST(tst_Flood)
 #include "tst_flood.moc"

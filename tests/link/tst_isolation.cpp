@@ -274,5 +274,5 @@ void tst_Isolation::onlyTheChosenDeviceIsContacted()
     QCOMPARE(takeContacts(), QStringList());
 }
 
-TESSALY_TEST_MAIN(tst_Isolation)
+TESSALY_WINDOW_TEST(tst_Isolation)
 #include "tst_isolation.moc"

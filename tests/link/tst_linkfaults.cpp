@@ -680,5 +680,5 @@ void tst_LinkFaults::configurationChangesTheModel()
     console.expectQuiet();
 }
 
-TESSALY_TEST_MAIN(tst_LinkFaults)
+TESSALY_WINDOW_TEST(tst_LinkFaults)
 #include "tst_linkfaults.moc"

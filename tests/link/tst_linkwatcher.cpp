@@ -341,5 +341,5 @@ void tst_LinkWatcher::goneLinks()
     QVERIFY(!QTest::qWaitFor([&] { return !lost.isEmpty(); }, silence));
 }
 
-TESSALY_TEST_MAIN(tst_LinkWatcher)
+TESSALY_WINDOW_TEST(tst_LinkWatcher)
 #include "tst_linkwatcher.moc"

@@ -529,5 +529,5 @@ void tst_Received::textIsSharedByBothLinks()
     QCOMPARE(receivedText, u"ABCDEF"_s);
 }
 
-TESSALY_TEST_MAIN(tst_Received)
+TESSALY_WINDOW_TEST(tst_Received)
 #include "tst_received.moc"

@@ -269,5 +269,5 @@ void tst_ReceivedTextDisplay::endIsShown()
     QVERIFY(!QTest::qWaitFor([&] { return bar->value() != bar->maximum(); }, 50));
 }
 
-TESSALY_TEST_MAIN(tst_ReceivedTextDisplay)
+TESSALY_WINDOW_TEST(tst_ReceivedTextDisplay)
 #include "tst_receivedtextdisplay.moc"

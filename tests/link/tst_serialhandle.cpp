@@ -88,6 +88,6 @@ void tst_SerialHandle::commandsForADeviceThatDoesNotRead()
     QVERIFY(console.find<QPushButton>("pushButton_Disconnect")->isEnabled());
 }
 
-TESSALY_TEST_MAIN(tst_SerialHandle)
+TESSALY_WINDOW_TEST(tst_SerialHandle)
 
 #include "tst_serialhandle.moc"

@@ -112,5 +112,5 @@ void tst_SerialSettings::portNames()
     QCOMPARE(serialPortNames(extraPorts), names + added);
 }
 
-TESSALY_TEST_MAIN(tst_SerialSettings)
+TESSALY_WINDOW_TEST(tst_SerialSettings)
 #include "tst_serialsettings.moc"

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "link/wordlength.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,5 +40,5 @@ void tst_WordLength::longest()
     QTEST(int(longestWord(text)), "length");
 }
 
-QTEST_APPLESS_MAIN(tst_WordLength)
+TESSALY_TEST(tst_WordLength)
 #include "tst_wordlength.moc"

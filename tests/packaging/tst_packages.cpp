@@ -3,6 +3,7 @@
 
 #include "tests/packaging/packageroot.h"
 #include "tests/support/consoleprogram.h"
+#include "tests/support/folders.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/senderprogram.h"
@@ -116,9 +117,8 @@ void tst_Packages::initTestCase()
 {
     QProcess cpack;
     cpack.setProcessChannelMode(QProcess::MergedChannels);
-    cpack.start(QStringLiteral(TESSALY_CPACK),
-                {u"-G"_s, u"DEB"_s, u"--config"_s, QStringLiteral(TESSALY_CPACK_CONFIG), u"-B"_s,
-                 m_folder.path()});
+    cpack.start(u"cpack"_s, {u"-G"_s, u"DEB"_s, u"--config"_s, buildPath(u"CPackConfig.cmake"_s),
+                             u"-B"_s, m_folder.path()});
     QVERIFY(cpack.waitForFinished(timeLimit));
     QVERIFY2(cpack.exitCode() == 0, cpack.readAll().constData());
 
@@ -348,5 +348,5 @@ void tst_Packages::withoutAWindow()
     QVERIFY(simulator.stop());
 }
 
-TESSALY_PROGRAM_TEST_MAIN(tst_Packages)
+TESSALY_PROGRAM_TEST(tst_Packages)
 #include "tst_packages.moc"

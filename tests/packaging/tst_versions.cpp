@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/applicationobjects.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,8 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString version = QStringLiteral(TESSALY_BUILD_VERSION);
-const QDir sourceFolder(QStringLiteral(TESSALY_SOURCE_FOLDER));
-const QDir packagingFolder(QStringLiteral(TESSALY_PACKAGING_FOLDER));
 
 QString textOf(const QString &path)
 {
@@ -39,7 +38,7 @@ struct Metainfo
 Metainfo metainfo()
 {
     Metainfo found;
-    QXmlStreamReader xml(textOf(packagingFolder.filePath(u"com.example.tessaly.metainfo.xml"_s)));
+    QXmlStreamReader xml(textOf(buildPath(u"packaging/com.example.tessaly.metainfo.xml"_s)));
     while (!xml.atEnd()) {
         xml.readNext();
         if (!xml.isStartElement())
@@ -83,7 +82,7 @@ void tst_Versions::program()
 void tst_Versions::simulator()
 {
     QProcess process;
-    process.start(QStringLiteral(TESSALY_SIMULATOR), {u"--version"_s});
+    process.start(programPath(u"tessaly-simulator"_s), {u"--version"_s});
     QVERIFY(process.waitForFinished());
     QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()),
              "tessaly-simulator "_L1 + version + u'\n');
@@ -94,11 +93,11 @@ void tst_Versions::newestRelease()
 {
     static const QRegularExpression heading(u"^## (.*) - (.*)$"_s,
                                             QRegularExpression::MultilineOption);
-    const auto newest = heading.match(textOf(sourceFolder.filePath(u"CHANGELOG.md"_s)));
+    const auto newest = heading.match(textOf(sourcePath(u"CHANGELOG.md"_s)));
     QVERIFY(newest.hasMatch());
     QCOMPARE(newest.captured(1), version);
 
-    const QString changelog = textOf(packagingFolder.filePath(u"changelog"_s));
+    const QString changelog = textOf(buildPath(u"packaging/changelog"_s));
     QVERIFY2(changelog.startsWith("tessaly ("_L1 + version + ") "_L1), qPrintable(changelog));
 
     const Metainfo found = metainfo();
@@ -116,10 +115,10 @@ void tst_Versions::manualPages()
     static const QRegularExpression title(
         u"^\\.TH \\S+ 1 \\S+ \"Tessaly (.*)\" \"User Commands\"$"_s,
         QRegularExpression::MultilineOption);
-    const QStringList pages = packagingFolder.entryList({u"*.1"_s});
+    const QStringList pages = QDir(buildPath(u"packaging"_s)).entryList({u"*.1"_s});
     QVERIFY(pages.size() >= 2);
     for (const QString &page : pages) {
-        const auto match = title.match(textOf(packagingFolder.filePath(page)));
+        const auto match = title.match(textOf(buildPath("packaging/"_L1 + page)));
         QVERIFY2(match.hasMatch(), qPrintable(page));
         QCOMPARE(page + u' ' + match.captured(1), page + u' ' + version);
     }
@@ -130,5 +129,5 @@ void tst_Versions::website()
     QCOMPARE(metainfo().homepage, QCoreApplication::organizationDomain());
 }
 
-QTEST_GUILESS_MAIN(tst_Versions)
+TESSALY_TEST(tst_Versions)
 #include "tst_versions.moc"

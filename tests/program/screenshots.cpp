@@ -3,6 +3,7 @@
 
 #include "catalogue/devicecatalogue.h"
 #include "catalogue/listnumbers.h"
+#include "tests/support/folders.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/simulatorprogram.h"
 #include "tests/support/tcppeer.h"
@@ -268,7 +269,7 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     }
     Photographer photographer(simulator);
-    const QDir pictures(QStringLiteral(TESSALY_SCREENSHOTS));
+    const QDir pictures(buildPath(u"screenshots"_s));
     for (const QString &locale : std::as_const(locales)) {
         if (!photographer.photographLanguage(locale + ".UTF-8"_L1, pictures))
             return EXIT_FAILURE;

@@ -202,5 +202,5 @@ void tst_Program::closeByWindowManager()
     QVERIFY(program.endsWell());
 }
 
-TESSALY_PROGRAM_TEST_MAIN(tst_Program)
+TESSALY_PROGRAM_TEST(tst_Program)
 #include "tst_program.moc"

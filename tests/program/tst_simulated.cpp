@@ -829,5 +829,5 @@ void tst_Simulated::refusedCommand()
     QCOMPARE(desk.frames(), desk.lines({stop}));
 }
 
-TESSALY_PROGRAM_TEST_MAIN(tst_Simulated)
+TESSALY_PROGRAM_TEST(tst_Simulated)
 #include "tst_simulated.moc"

@@ -37,14 +37,15 @@ void tst_SmallScreen::firstWindowFits()
     QVERIFY(program.endsWell());
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+int runSmallScreenTest(int argc, char *argv[])
 {
-    VirtualScreen screen;
-    if (!prepareProgramTest(screen, "1366x768"))
-        return 1;
-    const QApplication application(argc, argv);
-    tst_SmallScreen test;
-    return QTest::qExec(&test, argc, argv);
+    return runProgramTest<tst_SmallScreen>(argc, argv, "1366x768");
 }
+
+} // namespace
+
+TESSALY_REGISTER_TEST(tst_SmallScreen, runSmallScreenTest)
 
 #include "tst_smallscreen.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/consoleprogram.h"
+#include "tests/support/folders.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
@@ -104,7 +105,7 @@ QString keyName(const QString &control)
 /// The columns of each line that is neither empty nor a comment.
 QList<QStringList> readColumns(const QString &name)
 {
-    QFile file(QStringLiteral(TESSALY_GOLDEN_FOLDER) + u'/' + name + ".txt"_L1);
+    QFile file(sourcePath("tests/protocol/golden/"_L1 + name + ".txt"_L1));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
     QList<QStringList> lines;
@@ -413,8 +414,10 @@ void tst_Soak::sendsTheSameAndKeepsNothing()
     QVERIFY(nobodyReceives());
 }
 
+namespace {
+
 /// A number as the first argument is the least number of commands to send.
-int main(int argc, char *argv[])
+int runSoakTest(int argc, char *argv[])
 {
     VirtualScreen screen;
     if (!prepareProgramTest(screen))
@@ -433,5 +436,9 @@ int main(int argc, char *argv[])
     tst_Soak test(commandCount);
     return QTest::qExec(&test, arguments);
 }
+
+} // namespace
+
+TESSALY_REGISTER_TEST(tst_Soak, runSoakTest)
 
 #include "tst_soak.moc"

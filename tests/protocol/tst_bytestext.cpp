@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "protocol/bytestext.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -179,6 +178,6 @@ void tst_BytesText::longText()
     QCOMPARE(decimalFromHexText(hexText), decimalText);
 }
 
-QTEST_APPLESS_MAIN(tst_BytesText)
+TESSALY_TEST(tst_BytesText)
 
 #include "tst_bytestext.moc"

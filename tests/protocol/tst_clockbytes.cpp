@@ -3,8 +3,8 @@
 
 #include "catalogue/commandid.h"
 #include "protocol/clockbytes.h"
+#include "tests/support/testregistry.h"
 
-#include <QTest>
 #include <QTimeZone>
 
 #include <time.h>
@@ -312,5 +312,5 @@ void tst_ClockBytes::otherIdsAreEmpty()
     QCOMPARE(clockBytes(id, utc(u"2026-03-07 21:08:59"_s)), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(tst_ClockBytes)
+TESSALY_TEST(tst_ClockBytes)
 #include "tst_clockbytes.moc"

@@ -3,6 +3,7 @@
 
 #include "app/applicationobjects.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
@@ -43,7 +44,7 @@ namespace {
 
 QString goldenFolder()
 {
-    return QStringLiteral(TESSALY_TEST_DATA) + "/golden/commands/"_L1;
+    return sourcePath(u"tests/protocol/golden/commands/"_s);
 }
 
 const QString onDemandModel = u"Sonet A Lite (TCP/IP)"_s;
@@ -556,6 +557,6 @@ void tst_Commands::onDemandModelWithSerialPortOpen()
     QTRY_COMPARE(hex(pty.received()), stop);
 }
 
-TESSALY_TEST_MAIN(tst_Commands)
+TESSALY_WINDOW_TEST(tst_Commands)
 
 #include "tst_commands.moc"

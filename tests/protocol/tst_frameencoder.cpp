@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "protocol/frameencoder.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 #include <limits>
 
@@ -595,6 +594,6 @@ void tst_FrameEncoder::wholeMessage()
     QTEST(hex(::wireFrame(model, ::playerIdByteFromText(playerId), code, body)), "frame");
 }
 
-QTEST_APPLESS_MAIN(tst_FrameEncoder)
+TESSALY_TEST(tst_FrameEncoder)
 
 #include "tst_frameencoder.moc"

@@ -3,8 +3,8 @@
 
 #include "protocol/frameencoder.h"
 #include "protocol/labelledcommands.h"
+#include "tests/support/testregistry.h"
 
-#include <QTest>
 #include <QTimeZone>
 
 using namespace Qt::Literals::StringLiterals;
@@ -585,5 +585,5 @@ void tst_LabelledCommands::languageCode()
     QCOMPARE(hex(languageCodeBytes(value)), body);
 }
 
-QTEST_APPLESS_MAIN(tst_LabelledCommands)
+TESSALY_TEST(tst_LabelledCommands)
 #include "tst_labelledcommands.moc"

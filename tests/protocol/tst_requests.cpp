@@ -4,6 +4,7 @@
 #include "app/applicationobjects.h"
 #include "catalogue/lightingmodels.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
@@ -196,8 +197,8 @@ struct GoldenLine
 
 QList<GoldenLine> goldenLines(int row)
 {
-    const QString path = QStringLiteral(TESSALY_TEST_DATA "/golden/requests/")
-                         + QLatin1StringView(models[row].golden) + u".txt"_s;
+    const QString path = sourcePath("tests/protocol/golden/requests/"_L1
+                                    + QLatin1StringView(models[row].golden) + u".txt"_s);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
@@ -1050,5 +1051,5 @@ void tst_Requests::subtitleSelectionOfExtendedModels()
     QCOMPARE(far.press("pushButton_Subtitles_Select").bytes, "04 0C"_ba);
 }
 
-TESSALY_TEST_MAIN(tst_Requests)
+TESSALY_WINDOW_TEST(tst_Requests)
 #include "tst_requests.moc"

@@ -833,6 +833,6 @@ void tst_Send::onDemandBodies()
     QTRY_COMPARE(hex(peer.received()), wire);
 }
 
-TESSALY_TEST_MAIN(tst_Send)
+TESSALY_WINDOW_TEST(tst_Send)
 
 #include "tst_send.moc"

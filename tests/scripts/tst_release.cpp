@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -110,8 +112,8 @@ void tst_Release::initTestCase()
     const QString copy
         = u"git -c safe.directory=\"$1\" -C \"$1\" ls-files -z --cached --others --exclude-standard"
           " | (cd \"$1\" && xargs -0 cp --parents --target-directory=\"$2\")"_s;
-    QVERIFY(run(u"bash"_s, {u"-o"_s, u"pipefail"_s, u"-ec"_s, copy, u"copy"_s,
-                            QStringLiteral(TESSALY_SOURCE_FOLDER), path(u""_s)}));
+    QVERIFY(run(u"bash"_s, {u"-o"_s, u"pipefail"_s, u"-ec"_s, copy, u"copy"_s, sourcePath(u"."_s),
+                            path(u""_s)}));
 
     // Whether these sources are a release or not yet one, those of the test are.
     QVERIFY(run(u"sed"_s, {u"--in-place"_s, u"s/^## 1\\.2\\.8\\.0 - .*/## 1.2.8.0 - 2026-03-07/"_s,
@@ -259,5 +261,5 @@ void tst_Release::release()
     QCOMPARE(m_output, u"v1.2.8.0\n"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_Release)
+TESSALY_TEST(tst_Release)
 #include "tst_release.moc"

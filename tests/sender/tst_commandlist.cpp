@@ -4,11 +4,11 @@
 #include "sender/commandlist.h"
 
 #include "catalogue/lightingmodels.h"
+#include "tests/support/testregistry.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -119,5 +119,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_CommandList)
+TESSALY_TEST(tst_CommandList)
 #include "tst_commandlist.moc"

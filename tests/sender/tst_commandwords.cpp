@@ -5,9 +5,9 @@
 
 #include "catalogue/devicecatalogue.h"
 #include "catalogue/lightingmodels.h"
+#include "tests/support/testregistry.h"
 
 #include <QProcess>
-#include <QTest>
 #include <QTimeZone>
 
 using namespace Qt::Literals::StringLiterals;
@@ -283,5 +283,5 @@ void tst_CommandWords::ownWordsAreRead()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_CommandWords)
+TESSALY_TEST(tst_CommandWords)
 #include "tst_commandwords.moc"

@@ -1,20 +1,33 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString program = QStringLiteral(TESSALY_SEND);
-const QString completion = QStringLiteral(TESSALY_PACKAGING) + "/bash-completion/tessaly-send"_L1;
-const QString manual = QStringLiteral(TESSALY_PACKAGING) + "/man/tessaly-send.1"_L1;
+QString program()
+{
+    return programPath(u"tessaly-send"_s);
+}
+
+QString completion()
+{
+    return sourcePath(u"packaging/bash-completion/tessaly-send"_s);
+}
+
+QString manual()
+{
+    return sourcePath(u"packaging/man/tessaly-send.1"_s);
+}
 
 QString textOf(const QString &path)
 {
@@ -45,7 +58,7 @@ QStringList completions(const QStringList &words)
                            "_tessaly_send \"$program\" \"${COMP_WORDS[COMP_CWORD]#\\\"}\" "
                            "\"${COMP_WORDS[COMP_CWORD - 1]}\"\n"
                            "((${#COMPREPLY[@]} == 0)) || printf '%s\\n' \"${COMPREPLY[@]}\"\n"_s;
-    return outputOf(u"bash"_s, QStringList{u"-c"_s, script, completion, program} + words)
+    return outputOf(u"bash"_s, QStringList{u"-c"_s, script, completion(), program()} + words)
         .split(u'\n', Qt::SkipEmptyParts);
 }
 
@@ -113,22 +126,22 @@ void tst_Completion::words()
 
 void tst_Completion::portsAndFiles()
 {
-    const QString file = QFileInfo(manual).path() + "/tessaly-se"_L1;
+    const QString file = QFileInfo(manual()).path() + "/tessaly-se"_L1;
     for (const QString &option : {u"--port"_s, u"--script"_s, u"--log"_s})
-        QCOMPARE(completions({option, file}), QStringList{manual});
+        QCOMPARE(completions({option, file}), QStringList{manual()});
 }
 
 void tst_Completion::optionsAreKnownEverywhere()
 {
-    const QSet<QString> options = optionsIn(outputOf(program, {u"--help"_s}));
+    const QSet<QString> options = optionsIn(outputOf(program(), {u"--help"_s}));
     QVERIFY(options.size() > 15);
     const QSet<QString> completed = optionsIn(completions({u"--"_s}).join(u' '));
     QCOMPARE(completed, options);
-    const QString page = textOf(manual).remove(u'\\');
+    const QString page = textOf(manual()).remove(u'\\');
     // Those of the command that lets a user open ports.
     const QSet<QString> foreign{u"--append"_s, u"--groups"_s};
     QCOMPARE(optionsIn(page) - foreign, options);
 }
 
-QTEST_GUILESS_MAIN(tst_Completion)
+TESSALY_TEST(tst_Completion)
 #include "tst_completion.moc"

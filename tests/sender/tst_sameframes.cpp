@@ -264,5 +264,5 @@ void tst_SameFrames::everyCommand()
         QVERIFY2(!line.endsWith(u' '), qPrintable(line));
 }
 
-TESSALY_TEST_MAIN(tst_SameFrames)
+TESSALY_WINDOW_TEST(tst_SameFrames)
 #include "tst_sameframes.moc"

@@ -4,8 +4,7 @@
 #include "sender/script.h"
 
 #include "catalogue/devicecatalogue.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -158,5 +157,5 @@ void tst_Script::longLines()
     QVERIFY2(script.errors.value(0).startsWith(error), qPrintable(script.errors.value(0)));
 }
 
-QTEST_GUILESS_MAIN(tst_Script)
+TESSALY_TEST(tst_Script)
 #include "tst_script.moc"

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sender/senderoptions.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -329,5 +328,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SenderOptions)
+TESSALY_TEST(tst_SenderOptions)
 #include "tst_senderoptions.moc"

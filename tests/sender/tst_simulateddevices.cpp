@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
 #include "tests/support/senderprogram.h"
 #include "tests/support/simulatorprogram.h"
 #include "tests/support/tcppeer.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,7 +13,6 @@
 #include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,7 +23,7 @@ namespace {
 QMap<QString, QStringList> goldenFrames()
 {
     QMap<QString, QStringList> frames;
-    const QDir folder(QStringLiteral(TESSALY_GOLDEN_FRAMES));
+    const QDir folder(sourcePath(u"tests/simulator/golden/frames"_s));
     for (const QString &name : folder.entryList({u"*.txt"_s}, QDir::Files)) {
         if (name == "values.txt"_L1 || name == "lumo_bridge.txt"_L1)
             continue;
@@ -167,5 +168,5 @@ void tst_SimulatedDevices::noAnswer()
     QCOMPARE(sender.errors(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(tst_SimulatedDevices)
+TESSALY_TEST(tst_SimulatedDevices)
 #include "tst_simulateddevices.moc"

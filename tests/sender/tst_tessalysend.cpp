@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/applicationobjects.h"
+#include "tests/support/folders.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/senderprogram.h"
 #include "tests/support/simulatorprogram.h"
 #include "tests/support/tcppeer.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -15,7 +17,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <array>
 #include <memory>
@@ -843,7 +844,7 @@ void tst_TessalySend::lookUpThatTakesLong()
 
     SenderProgram sender;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(TESSALY_SLOW_LOOKUP));
+    environment.insert(u"LD_PRELOAD"_s, buildPath(u"tests/sender/libtessaly_slow_lookup.so"_s));
     // The sanitizer would insist on being the first library.
     environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
     sender.process().setProcessEnvironment(environment);
@@ -1161,5 +1162,5 @@ void tst_TessalySend::closedInput()
     QCOMPARE(sender.error(), u"standard input: Bad file descriptor. Try --help."_s);
 }
 
-QTEST_GUILESS_MAIN(tst_TessalySend)
+TESSALY_TEST(tst_TessalySend)
 #include "tst_tessalysend.moc"

@@ -4,10 +4,10 @@
 #include "simulator/answerplayer.h"
 #include "simulator/deviceconnection.h"
 #include "simulator/fault.h"
+#include "tests/support/testregistry.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -257,5 +257,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Fault)
+TESSALY_TEST(tst_Fault)
 #include "tst_fault.moc"

@@ -9,11 +9,11 @@
 #include "protocol/labelledcommands.h"
 #include "simulator/framecursor.h"
 #include "simulator/framedecoder.h"
+#include "tests/support/testregistry.h"
 #include "ui/subtitlecodes.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <malloc.h>
 #include <time.h>
@@ -1252,5 +1252,5 @@ void tst_FrameDecoder::noise()
     QVERIFY2(growth < bufferRoom, qPrintable(QString::number(growth)));
 }
 
-QTEST_GUILESS_MAIN(tst_FrameDecoder)
+TESSALY_TEST(tst_FrameDecoder)
 #include "tst_framedecoder.moc"

@@ -6,9 +6,10 @@
 #include "protocol/bytestext.h"
 #include "simulator/framedecoder.h"
 #include "simulator/framemeaning.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,12 +17,16 @@ namespace {
 
 // A line is "model | ID n | bytes | meaning", as the simulator writes it behind the time. Lines
 // that begin with '#' and empty lines are skipped.
-const QString framesFolder = QStringLiteral(TESSALY_TEST_DATA) + "/golden/frames"_L1;
+QString framesFolder()
+{
+    return sourcePath(u"tests/simulator/golden/frames"_s);
+}
+
 const QString valuesFile = u"values.txt"_s;
 
 QStringList linesOf(const QString &fileName)
 {
-    QFile file(framesFolder + u'/' + fileName);
+    QFile file(framesFolder() + u'/' + fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         qFatal("cannot read %s", qPrintable(file.fileName()));
     QStringList lines;
@@ -98,7 +103,7 @@ void tst_FrameMeaning::linesReadRight_data()
 {
     QTest::addColumn<QString>("line");
 
-    for (const QString &fileName : QDir(framesFolder).entryList(QDir::Files)) {
+    for (const QString &fileName : QDir(framesFolder()).entryList(QDir::Files)) {
         const QStringList lines = linesOf(fileName);
         for (qsizetype i = 0; i < lines.size(); ++i) {
             QTest::addRow("%s, %d: %s", qPrintable(fileName), static_cast<int>(i) + 1,
@@ -127,7 +132,7 @@ void tst_FrameMeaning::eachCommandOfTheModelOnce_data()
 {
     QTest::addColumn<QString>("fileName");
 
-    for (const QString &fileName : QDir(framesFolder).entryList(QDir::Files)) {
+    for (const QString &fileName : QDir(framesFolder()).entryList(QDir::Files)) {
         if (fileName != valuesFile)
             QTest::addRow("%s", qPrintable(fileName)) << fileName;
     }
@@ -155,7 +160,7 @@ void tst_FrameMeaning::eachCommandOfTheModelOnce()
 void tst_FrameMeaning::oneFileForEachModel()
 {
     QStringList actual;
-    for (const QString &fileName : QDir(framesFolder).entryList(QDir::Files)) {
+    for (const QString &fileName : QDir(framesFolder()).entryList(QDir::Files)) {
         if (fileName != valuesFile)
             actual.append(column(linesOf(fileName).constFirst(), 0));
     }
@@ -199,5 +204,5 @@ void tst_FrameMeaning::ownIdIsWhatTheDeviceAnswersTo()
     QCOMPARE(frameLine(time, model, 0, noFrame), start + "no ID | 05 | no frame"_L1);
 }
 
-QTEST_GUILESS_MAIN(tst_FrameMeaning)
+TESSALY_TEST(tst_FrameMeaning)
 #include "tst_framemeaning.moc"

@@ -5,12 +5,13 @@
 #include "simulator/modellist.h"
 #include "simulator/options.h"
 #include "simulator/portlink.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <optional>
 
@@ -345,7 +346,7 @@ private slots:
 
     void listOfAll()
     {
-        QFile file(QStringLiteral(TESSALY_TEST_DATA "/golden/models.txt"));
+        QFile file(sourcePath(u"tests/simulator/golden/models.txt"_s));
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));
         const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
         QCOMPARE(expected.size(), 121);
@@ -544,5 +545,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Options)
+TESSALY_TEST(tst_Options)
 #include "tst_options.moc"

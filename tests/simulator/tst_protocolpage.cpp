@@ -3,16 +3,20 @@
 
 #include "catalogue/lightingmodels.h"
 #include "simulator/protocolpage.h"
+#include "tests/support/folders.h"
+#include "tests/support/testregistry.h"
 
 #include <QFile>
 #include <QProcess>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString committedPath = QStringLiteral(TESSALY_SOURCE_FOLDER) + "/docs/protocol.md"_L1;
+QString committedPath()
+{
+    return sourcePath(u"docs/protocol.md"_s);
+}
 
 /// A row of a command table: label, value, bytes and, of text messages, their text.
 struct Row
@@ -101,14 +105,14 @@ void tst_ProtocolPage::committedPage()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"TZ"_s, timeZone);
     simulator.setProcessEnvironment(environment);
-    simulator.start(QStringLiteral(TESSALY_SIMULATOR), {u"--protocol"_s});
+    simulator.start(programPath(u"tessaly-simulator"_s), {u"--protocol"_s});
     QVERIFY(simulator.waitForFinished());
     QCOMPARE(simulator.readAllStandardError(), ""_ba);
     QCOMPARE(simulator.exitCode(), 0);
 
     QProcess diff;
     diff.start(u"diff"_s, {u"--unified"_s, u"--label=docs/protocol.md"_s, u"--label=catalogue"_s,
-                           committedPath, u"-"_s});
+                           committedPath(), u"-"_s});
     QVERIFY(diff.waitForStarted());
     diff.write(simulator.readAllStandardOutput());
     diff.closeWriteChannel();
@@ -268,5 +272,5 @@ void tst_ProtocolPage::outputContacts()
              u"none ... 1 to 8: 80 19 00 00 ... 80 19 FF 00"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_ProtocolPage)
+TESSALY_TEST(tst_ProtocolPage)
 #include "tst_protocolpage.moc"

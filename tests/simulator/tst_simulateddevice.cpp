@@ -3,8 +3,7 @@
 
 #include "catalogue/devicecatalogue.h"
 #include "simulator/simulateddevice.h"
-
-#include <QTest>
+#include "tests/support/testregistry.h"
 
 #include <algorithm>
 #include <memory>
@@ -838,5 +837,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_SimulatedDevice)
+TESSALY_TEST(tst_SimulatedDevice)
 #include "tst_simulateddevice.moc"

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/support/folders.h"
 #include "tests/support/simulatorprogram.h"
+#include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -12,7 +14,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <array>
 #include <memory>
@@ -225,7 +226,7 @@ private slots:
         QCOMPARE(simulator.exitCode(), 0);
         QCOMPARE(simulator.errorOutput(), ""_ba);
         QCOMPARE(simulator.output().split('\n'),
-                 contentOf(QStringLiteral(TESSALY_TEST_DATA "/golden/models.txt")).split('\n'));
+                 contentOf(sourcePath(u"tests/simulator/golden/models.txt"_s)).split('\n'));
     }
 
     void help()
@@ -1170,5 +1171,5 @@ private:
     std::unique_ptr<SimulatorProgram> m_all;
 };
 
-QTEST_GUILESS_MAIN(tst_Simulator)
+TESSALY_TEST(tst_Simulator)
 #include "tst_simulator.moc"

@@ -3,6 +3,7 @@
 
 #include "tests/support/consoleprogram.h"
 
+#include "tests/support/folders.h"
 #include "tests/support/testedprocess.h"
 #include "tests/support/testmain.h"
 
@@ -66,8 +67,7 @@ QString excerpt(const QString &text)
 /// Where the pictures of this test are; made when it is not there.
 QDir pictureFolder()
 {
-    const QString test = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    QDir folder(QStringLiteral(TESSALY_SCREENSHOTS) + u'/' + test);
+    QDir folder(buildPath("screenshots/"_L1 + runningTest()));
     folder.mkpath(u"."_s);
     return folder;
 }
@@ -95,7 +95,7 @@ xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name)
 ConsoleProgram::ConsoleProgram(const QString &extraPorts, const QString &command,
                                const QString &folder)
 {
-    const QString path = command.isEmpty() ? QStringLiteral(TESSALY_PROGRAM) : command;
+    const QString path = command.isEmpty() ? programPath(u"tessaly"_s) : command;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, m_home.path());
     environment.insert(u"XDG_DATA_HOME"_s, m_home.path());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/senderprogram.h"
+#include "tests/support/folders.h"
 
 #include "tests/support/testedprocess.h"
 
@@ -13,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 SenderProgram::SenderProgram(const QString &command)
 {
-    m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SEND) : command);
+    m_process.setProgram(command.isEmpty() ? programPath(u"tessaly-send"_s) : command);
     bindToTest(m_process);
 }
 

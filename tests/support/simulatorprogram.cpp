@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/simulatorprogram.h"
+#include "tests/support/folders.h"
 
 #include "tests/support/testedprocess.h"
 
@@ -19,7 +20,7 @@ constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 
 SimulatorProgram::SimulatorProgram(const QString &command)
 {
-    m_process.setProgram(command.isEmpty() ? QStringLiteral(TESSALY_SIMULATOR) : command);
+    m_process.setProgram(command.isEmpty() ? programPath(u"tessaly-simulator"_s) : command);
     bindToTest(m_process);
 }
 

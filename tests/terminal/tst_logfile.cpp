@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "terminal/logfile.h"
+#include "tests/support/testregistry.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 
@@ -109,5 +109,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_LogFile)
+TESSALY_TEST(tst_LogFile)
 #include "tst_logfile.moc"

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "terminal/terminationsignals.h"
+#include "tests/support/testregistry.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <csignal>
 
@@ -67,5 +67,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_TerminationSignals)
+TESSALY_TEST(tst_TerminationSignals)
 #include "tst_terminationsignals.moc"

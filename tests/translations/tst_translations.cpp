@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/consolewindow.h"
+#include "tests/support/folders.h"
 #include "tests/support/testmain.h"
 
 #include <QAbstractButton>
@@ -24,8 +25,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString sourceFolder = QStringLiteral(TESSALY_SOURCE_FOLDER);
-const QString programFolder = QStringLiteral(TESSALY_PROGRAM_FOLDER);
+QString sourceFolder()
+{
+    return sourcePath(u"."_s);
+}
+
+QString programFolder()
+{
+    return programPath(u"."_s);
+}
 const QStringList languageCodes = {u"de"_s, u"es"_s, u"fr"_s, u"it"_s, u"nl"_s, u"pt"_s};
 
 /// Below the source folder.
@@ -36,7 +44,7 @@ QString tsPath(const QString &code)
 
 QString qmPath(const QString &code)
 {
-    return programFolder + u"/LanguageData_"_s + code + u".qm"_s;
+    return programFolder() + u"/LanguageData_"_s + code + u".qm"_s;
 }
 
 struct Message
@@ -131,7 +139,7 @@ public:
     ~TranslatedWindow()
     {
         console.find<QAction>("action_English")->trigger();
-        QDir::setCurrent(programFolder);
+        QDir::setCurrent(programFolder());
     }
     Q_DISABLE_COPY_MOVE(TranslatedWindow)
 
@@ -201,7 +209,7 @@ void tst_Translations::initTestCase()
     // can fall behind it.
     for (const QString &folder : {u"app"_s, u"catalogue"_s, u"link"_s, u"protocol"_s, u"ui"_s,
                                   u"scripts"_s, u"translations"_s}) {
-        copyFolder(sourceFolder + u'/' + folder, m_copy.filePath(folder));
+        copyFolder(sourceFolder() + u'/' + folder, m_copy.filePath(folder));
     }
     // Only the installation of packages is left out: a test installs nothing.
     QFile setup(m_copy.filePath(u"scripts/setup"_s));
@@ -218,7 +226,7 @@ void tst_Translations::initTestCase()
              output.constData());
 
     for (const QString &code : languageCodes) {
-        m_kept.insert(code, readTs(sourceFolder + u'/' + tsPath(code)));
+        m_kept.insert(code, readTs(sourceFolder() + u'/' + tsPath(code)));
         m_updated.insert(code, readTs(m_copy.filePath(tsPath(code))));
     }
 }
@@ -233,8 +241,8 @@ void tst_Translations::everyLanguageIsBuilt()
             found.append(name.chopped(suffix.size()).section(u'_', 1));
         return found;
     };
-    QCOMPARE(codes(sourceFolder + u"/translations"_s, u".ts"_s), languageCodes);
-    QCOMPARE(codes(programFolder, u".qm"_s), languageCodes);
+    QCOMPARE(codes(sourceFolder() + u"/translations"_s, u".ts"_s), languageCodes);
+    QCOMPARE(codes(programFolder(), u".qm"_s), languageCodes);
 }
 
 void tst_Translations::fileIsWellFormed_data()
@@ -312,7 +320,7 @@ void tst_Translations::updateChangesNothing()
 {
     QFETCH(QString, code);
 
-    QFile kept(sourceFolder + u'/' + tsPath(code));
+    QFile kept(sourceFolder() + u'/' + tsPath(code));
     QFile updated(m_copy.filePath(tsPath(code)));
     QVERIFY(kept.open(QIODevice::ReadOnly));
     QVERIFY(updated.open(QIODevice::ReadOnly));
@@ -715,5 +723,5 @@ void tst_Translations::frameworkTextsAreThere()
     QCOMPARE(missing, QStringList());
 }
 
-TESSALY_TEST_MAIN(tst_Translations)
+TESSALY_WINDOW_TEST(tst_Translations)
 #include "tst_translations.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "goldenlines.h"
+#include "tests/support/folders.h"
 
 #include <QFile>
 #include <QSet>
@@ -12,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 QStringList goldenLines(const QString &fileName)
 {
-    QFile file(QStringLiteral(TESSALY_TEST_DATA) + "/golden/"_L1 + fileName);
+    QFile file(sourcePath("tests/ui/golden/"_L1 + fileName));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         qFatal("cannot read %s", qPrintable(file.fileName()));
 

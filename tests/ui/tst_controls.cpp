@@ -587,5 +587,5 @@ void tst_Controls::drawingKeepsNothing()
     QVERIFY2(grown < 262'144, qPrintable(QString::number(grown)));
 }
 
-TESSALY_TEST_MAIN(tst_Controls)
+TESSALY_WINDOW_TEST(tst_Controls)
 #include "tst_controls.moc"

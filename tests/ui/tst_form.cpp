@@ -902,5 +902,5 @@ void tst_Form::everySlotOfTheListIsThere()
     QCOMPARE(slotCount, 40);
 }
 
-TESSALY_TEST_MAIN(tst_Form)
+TESSALY_WINDOW_TEST(tst_Form)
 #include "tst_form.moc"

@@ -323,14 +323,17 @@ void tst_Images::pairsDifferClearly()
     QVERIFY2(difference >= percent, qPrintable(QString::number(difference, 'f', 1)));
 }
 
-int main(int argc, char *argv[])
+namespace {
+
+int runImagesTest(int argc, char *argv[])
 {
     // QIcon looks for an "@2x" only where a screen asks for one.
     qputenv("QT_SCALE_FACTOR", "2");
-    prepareTestEnvironment();
-    const QApplication application(argc, argv);
-    tst_Images test;
-    return QTest::qExec(&test, argc, argv);
+    return runWindowTest<tst_Images>(argc, argv);
 }
+
+} // namespace
+
+TESSALY_REGISTER_TEST(tst_Images, runImagesTest)
 
 #include "tst_images.moc"

@@ -1292,5 +1292,5 @@ void tst_Panels::tcpLinkStaysOpen()
     QCOMPARE(peer.received().toHex(' '), QByteArray());
 }
 
-TESSALY_TEST_MAIN(tst_Panels)
+TESSALY_WINDOW_TEST(tst_Panels)
 #include "tst_panels.moc"

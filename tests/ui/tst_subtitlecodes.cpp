@@ -282,5 +282,5 @@ void tst_SubtitleCodes::windowOffersNothingForUnknownType()
     QCOMPARE(rowsOf(console.window, "comboBox_Subtitles_Value"), QStringList());
 }
 
-TESSALY_TEST_MAIN(tst_SubtitleCodes)
+TESSALY_WINDOW_TEST(tst_SubtitleCodes)
 #include "tst_subtitlecodes.moc"

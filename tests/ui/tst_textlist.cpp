@@ -124,6 +124,6 @@ void tst_TextList::popupIsMadeWhenItIsShown()
     QCOMPARE(popup->currentIndex().row(), 1);
 }
 
-TESSALY_TEST_MAIN(tst_TextList)
+TESSALY_WINDOW_TEST(tst_TextList)
 
 #include "tst_textlist.moc"

@@ -165,6 +165,6 @@ void tst_VisibilityPlan::planIsEmptyAfterwards()
     QVERIFY(panel.first.isVisible());
 }
 
-TESSALY_TEST_MAIN(tst_VisibilityPlan)
+TESSALY_WINDOW_TEST(tst_VisibilityPlan)
 
 #include "tst_visibilityplan.moc"

@@ -760,5 +760,5 @@ void tst_Walk::focusIsSeen()
     QVERIFY(controls > 15);
 }
 
-TESSALY_TEST_MAIN(tst_Walk)
+TESSALY_WINDOW_TEST(tst_Walk)
 #include "tst_walk.moc"
