@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // The headers that most tests without widgets include, compiled in advance. Each test includes what
-// it uses all the same. Qt's header for tests is not among them: it looks different to programs that
-// link Qt Network.
+// it uses all the same. Qt's header for tests is not among them: it looks different to programs
+// that link Qt Network.
 
 #include <QCoreApplication>
 #include <QDateTime>
