@@ -14,5 +14,5 @@ QStringList goldenLines(const QString &fileName);
 /// The language codes of a file of golden/, as they stand.
 QStringList goldenCodes(const QString &fileName);
 
-/// Where two lists of lines differ, for people to read; empty when they are equal.
+/// Where two lists of lines differ, human-readable; empty when they are equal.
 QByteArray lineDifferences(const QStringList &actual, const QStringList &expected);
