@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "contrast.h"
 #include "tests/support/testmain.h"
 
 #include <QApplication>
-#include <QHash>
+#include <QDir>
 #include <QIcon>
 #include <QImage>
 #include <QImageReader>
 #include <QPalette>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,21 +27,26 @@ constexpr int iconSize = 48;
 constexpr int logoSize = 160;
 constexpr double requiredContrast = 3;
 
-const char *const iconNames[] = {
-    "Exit_A",        "Web_Site_B",     "Send_Mail",         "About",        "Change",
-    "Play_C",        "Standby_Wakeup", "Previous_Folder_C", "Stop_C",       "Previous_File_C",
-    "Pause_C",       "Next_File_C",    "Next_Folder_C",     "Send_Command", "Volume_Max",
-    "Volume_Min",    "Unmute",         "Previous_Sub",      "Next_Sub",     "Previous_Sub_Loop",
-    "Next_Sub_Loop",
-};
-static_assert(std::size(iconNames) == 21);
+const QString logo = u"Help_Panel_New_Logo"_s;
 
-// The icons of the menus have a second picture, for the highlighted line.
+// The icons of the menus have a second image, for the highlighted line.
 const char *const menuIconNames[] = {"Exit_A", "Web_Site_B", "Send_Mail", "About"};
 
-QString pathOf(const char *name)
+QString pathOf(const QString &name)
 {
-    return ":/Images/"_L1 + QLatin1StringView(name) + ".png"_L1;
+    return ":/Images/"_L1 + name + ".png"_L1;
+}
+
+/// All of the program's, by name. Which widget has which icon is another test's matter.
+QStringList iconNames()
+{
+    QStringList names;
+    for (const QString &file : QDir(u":/Images"_s).entryList({u"*.png"_s})) {
+        const QString name = file.chopped(4);
+        if (!name.endsWith("@2x"_L1) && !name.endsWith("_Active"_L1) && name != logo)
+            names.append(name);
+    }
+    return names;
 }
 
 QString doubledPath(const QString &path)
@@ -63,35 +68,17 @@ QImage iconAt16Pixels(const QString &path)
     return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// The commonest colour among the opaque pixels; invalid when there are none.
+/// The most frequent colour among the opaque pixels; invalid when there are none.
 QColor mainTone(const QImage &image)
 {
-    QHash<QRgb, int> counts;
-    QRgb commonest = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            if (qAlpha(pixel) == 255 && ++counts[pixel] > counts.value(commonest))
-                commonest = pixel;
-        }
+    ColourCounts all;
+    all.add(image, image.rect());
+    ColourCounts opaque;
+    for (auto it = all.counts().begin(); it != all.counts().end(); ++it) {
+        if (qAlpha(it.key()) == 255)
+            opaque.add(it.key(), it.value());
     }
-    return counts.isEmpty() ? QColor() : QColor::fromRgb(commonest);
-}
-
-/// Relative luminance after WCAG 2, 0 for black to 1 for white.
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-           + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
+    return opaque.isEmpty() ? QColor() : QColor::fromRgb(opaque.mostFrequent());
 }
 
 /// How many of the pixels that either picture paints look different, in percent.
@@ -118,28 +105,28 @@ double differenceInPercent(const QImage &one, const QImage &other)
     return painted == 0 ? 0 : 100.0 * different / painted;
 }
 
-/// The same of two icons at 16 pixels, where one that is merely moved counts as the same picture.
+/// The same of two icons at 16 pixels, where one that is merely moved counts as the same image.
 double iconDifferenceInPercent(const QString &one, const QString &other)
 {
     const QImage still = iconAt16Pixels(one);
     const QImage moving = iconAt16Pixels(other);
-    double least = 100;
+    double smallest = 100;
     for (int dy = -2; dy <= 2; ++dy) {
         for (int dx = -2; dx <= 2; ++dx) {
             const QImage moved = moving.copy(QRect(QPoint(dx, dy), moving.size()));
-            least = std::min(least, differenceInPercent(still, moved));
+            smallest = std::min(smallest, differenceInPercent(still, moved));
         }
     }
-    return least;
+    return smallest;
 }
 
 void addPictures()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("size");
-    for (const char *name : iconNames)
-        QTest::newRow(name) << pathOf(name) << iconSize;
-    QTest::newRow("logo") << pathOf("Help_Panel_New_Logo") << logoSize;
+    for (const QString &name : iconNames())
+        QTest::newRow(qPrintable(name)) << pathOf(name) << iconSize;
+    QTest::newRow("logo") << pathOf(logo) << logoSize;
 }
 
 void compareContrast(const QImage &image)
@@ -147,7 +134,7 @@ void compareContrast(const QImage &image)
     const QColor tone = mainTone(image);
     QVERIFY2(tone.isValid(), "nothing is opaque");
     for (const char *background : {"#ffffff", "#efefef", "#353535", "#2b2b2b", "#1e1e1e"}) {
-        const double found = contrast(tone, QColor(QLatin1StringView(background)));
+        const double found = contrast(tone.rgb(), QColor(QLatin1StringView(background)).rgb());
         QVERIFY2(found >= requiredContrast,
                  qPrintable(u"%1 on %2: %3"_s.arg(tone.name(), QLatin1StringView(background))
                                 .arg(found, 0, 'f', 2)));
@@ -162,7 +149,6 @@ class tst_Images : public QObject
 
 private slots:
     void initTestCase() { initResources(); }
-    void contrastFormula();
 
     void sizes_data() { addPictures(); }
     void sizes();
@@ -179,19 +165,6 @@ private slots:
     void pairsDifferClearly_data();
     void pairsDifferClearly();
 };
-
-void tst_Images::contrastFormula()
-{
-    const auto rounded = [](const char *one, const char *other) {
-        return QString::number(
-            contrast(QColor(QLatin1StringView(one)), QColor(QLatin1StringView(other))), 'f', 2);
-    };
-    QCOMPARE(rounded("#000000", "#ffffff"), u"21.00"_s);
-    QCOMPARE(rounded("#ffffff", "#000000"), u"21.00"_s);
-    QCOMPARE(rounded("#777777", "#ffffff"), u"4.48"_s);
-    QCOMPARE(rounded("#ff0000", "#ffffff"), u"4.00"_s);
-    QCOMPARE(rounded("#3d90ca", "#3d90ca"), u"1.00"_s);
-}
 
 void tst_Images::sizes()
 {
@@ -237,8 +210,10 @@ void tst_Images::highlightedMenuIcon_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("activePath");
-    for (const char *name : menuIconNames)
-        QTest::newRow(name) << pathOf(name) << pathOf(name).replace(".png"_L1, "_Active.png"_L1);
+    for (const char *name : menuIconNames) {
+        const QString plain = QString::fromLatin1(name);
+        QTest::newRow(name) << pathOf(plain) << pathOf(plain + "_Active"_L1);
+    }
 }
 
 void tst_Images::highlightedMenuIcon()
@@ -253,7 +228,7 @@ void tst_Images::highlightedMenuIcon()
         QCOMPARE(image.size(), imageAt(plain).size());
         QCOMPARE(image.convertToFormat(QImage::Format_Alpha8),
                  imageAt(plain).convertToFormat(QImage::Format_Alpha8));
-        const double found = contrast(mainTone(image), highlight);
+        const double found = contrast(mainTone(image).rgb(), highlight.rgb());
         QVERIFY2(found >= requiredContrast, qPrintable(QString::number(found)));
     }
 }
@@ -278,7 +253,7 @@ void tst_Images::applicationIcon()
 void tst_Images::noTwoAlike()
 {
     QStringList paths{u":/Images/AppIcon.ico"_s};
-    for (const char *name : iconNames)
+    for (const QString &name : iconNames())
         paths.append(pathOf(name));
     for (qsizetype i = 0; i < paths.size(); ++i) {
         for (qsizetype j = i + 1; j < paths.size(); ++j) {
@@ -295,32 +270,23 @@ void tst_Images::pairsDifferClearly_data()
 {
     QTest::addColumn<QString>("one");
     QTest::addColumn<QString>("other");
-    QTest::addColumn<int>("percent");
 
-    const auto pair = [](const char *one, const char *other, int percent) {
-        QTest::addRow("%s, %s", one, other) << pathOf(one) << pathOf(other) << percent;
-    };
-    pair("Volume_Min", "Volume_Max", 15);
-    pair("Volume_Min", "Unmute", 15);
-    pair("Volume_Max", "Unmute", 15);
-    pair("Previous_File_C", "Previous_Folder_C", 40);
-    pair("Next_File_C", "Next_Folder_C", 40);
-    pair("Previous_Sub", "Previous_Sub_Loop", 40);
-    pair("Next_Sub", "Next_Sub_Loop", 40);
-    pair("Previous_File_C", "Next_File_C", 15);
-    pair("Previous_Folder_C", "Next_Folder_C", 15);
-    pair("Previous_Sub", "Next_Sub", 15);
-    pair("Previous_Sub_Loop", "Next_Sub_Loop", 15);
+    const QList<std::pair<QString, QString>> pairs{{u"Previous_File_C"_s, u"Previous_Folder_C"_s},
+                                                   {u"Next_File_C"_s, u"Next_Folder_C"_s},
+                                                   {u"Previous_Sub"_s, u"Previous_Sub_Loop"_s},
+                                                   {u"Next_Sub"_s, u"Next_Sub_Loop"_s}};
+    for (const auto &[one, other] : pairs)
+        QTest::newRow(qPrintable(one + ", "_L1 + other)) << pathOf(one) << pathOf(other);
 }
 
+// These point in the same direction.
 void tst_Images::pairsDifferClearly()
 {
     QFETCH(const QString, one);
     QFETCH(const QString, other);
-    QFETCH(const int, percent);
 
     const double difference = iconDifferenceInPercent(one, other);
-    QVERIFY2(difference >= percent, qPrintable(QString::number(difference, 'f', 1)));
+    QVERIFY2(difference >= 40, qPrintable(QString::number(difference, 'f', 1)));
 }
 
 namespace {
