@@ -51,7 +51,7 @@ private slots:
     void longTextShowsItsEnds();
     void widthDoesNotDependOnTheRows();
     void widthFollowsTheMinimumContentsLength();
-    void popupIsMadeWhenItIsShown();
+    void popupShowsEveryRow();
 };
 
 void tst_TextList::toolTip_data()
@@ -84,7 +84,7 @@ void tst_TextList::longTextShowsItsEnds()
     };
     const QImage all = picture(longText);
     QVERIFY(all != picture(longText.left(longText.size() / 2)));
-    // Other beginnings and other ends are seen, another middle is not.
+    // Other beginnings and other ends are visible, another middle is not.
     QVERIFY(all != picture(u"X"_s + longText.sliced(1)));
     QVERIFY(all != picture(longText.chopped(1) + u'X'));
     QString otherMiddle = longText;
@@ -112,16 +112,28 @@ void tst_TextList::widthFollowsTheMinimumContentsLength()
     QCOMPARE(list.sizeHint().width() - width, 10 * list.fontMetrics().horizontalAdvance(u'X'));
 }
 
-void tst_TextList::popupIsMadeWhenItIsShown()
+void tst_TextList::popupShowsEveryRow()
 {
-    ShownList shown({u"1"_s, u"2"_s, u"3"_s});
-    shown.list.setCurrentIndex(1);
-    QVERIFY(!shown.list.findChild<QAbstractItemView *>());
+    ShownList shown({u"1"_s, longText, u"3"_s});
+    shown.list.setCurrentIndex(2);
     shown.list.showPopup();
-    const auto *popup = shown.list.findChild<QAbstractItemView *>();
-    QVERIFY(popup && popup->isVisible());
-    QCOMPARE(popup->model()->rowCount(), 3);
-    QCOMPARE(popup->currentIndex().row(), 1);
+    const QAbstractItemView *popup = shown.list.view();
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popup->currentIndex().row(), 2);
+    const QRect room = popup->viewport()->rect();
+    for (int row = 0; row < shown.list.count(); ++row) {
+        const QRect place = popup->visualRect(popup->model()->index(row, 0));
+        QVERIFY(!place.isEmpty());
+        QVERIFY(room.top() <= place.top() && place.bottom() <= room.bottom());
+    }
+    QVERIFY(room.width() >= popup->fontMetrics().horizontalAdvance(longText));
+
+    // The user picks a row.
+    const QPoint second = popup->visualRect(popup->model()->index(1, 0)).center();
+    QTest::mouseMove(popup->viewport(), second);
+    QTest::mouseClick(popup->viewport(), Qt::LeftButton, {}, second);
+    QTRY_COMPARE(shown.list.currentText(), longText);
+    QVERIFY(!popup->isVisible());
 }
 
 TESSALY_WINDOW_TEST(tst_TextList)

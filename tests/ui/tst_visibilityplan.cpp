@@ -57,7 +57,6 @@ class tst_VisibilityPlan : public QObject
 
 private slots:
     void lastWordCounts();
-    void nothingHappensBeforeItIsCarriedOut();
     void whatStaysIsLeftAlone();
     void hiddenBeforeTheWindowIsShown();
     void layoutsFollow();
@@ -74,18 +73,11 @@ void tst_VisibilityPlan::lastWordCounts()
     plan.show({&panel.first});
     plan.hide({&panel.first});
     plan.show({&panel.second});
+    // Nothing happens before.
+    QVERIFY(panel.first.isVisible());
     plan.carryOut();
     QVERIFY(!panel.first.isVisible());
     QVERIFY(panel.second.isVisible());
-}
-
-void tst_VisibilityPlan::nothingHappensBeforeItIsCarriedOut()
-{
-    Panel panel;
-    panel.window.show();
-    VisibilityPlan plan;
-    plan.hide({&panel.first});
-    QVERIFY(panel.first.isVisible());
 }
 
 void tst_VisibilityPlan::whatStaysIsLeftAlone()
@@ -126,8 +118,6 @@ void tst_VisibilityPlan::layoutsFollow()
     VisibilityPlan plan;
     plan.show({&panel.first});
     plan.carryOut();
-    QVERIFY(panel.inner.isEnabled());
-    QVERIFY(panel.outer.isEnabled());
     QTRY_VERIFY(panel.second.y() > panel.first.y() + panel.first.height());
 
     plan.hide({&panel.first});
