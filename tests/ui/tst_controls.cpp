@@ -180,6 +180,8 @@ void tst_Controls::everyControlIsExplained()
               || qobject_cast<const QSlider *>(widget) || qobject_cast<const QTextEdit *>(widget);
         if (!isIcon && !isField)
             continue;
+        if (isIcon)
+            QVERIFY2(!button->icon().isNull(), qPrintable(widget->objectName()));
         icons += isIcon ? 1 : 0;
         fields += isField ? 1 : 0;
         QVERIFY2(!widget->toolTip().isEmpty(), qPrintable(widget->objectName()));
