@@ -29,9 +29,6 @@ void tst_BytesText::bytes_data()
     QTest::addColumn<QString>("decimalText");
 
     QTest::newRow("none") << ""_ba << u""_s << u""_s;
-    QTest::newRow("one") << QByteArray("\x0A", 1) << u"0A"_s << u"10"_s;
-    QTest::newRow("zero") << QByteArray("\0", 1) << u"00"_s << u"0"_s;
-    QTest::newRow("highest") << QByteArray("\xFF", 1) << u"FF"_s << u"255"_s;
     QTest::newRow("play for player 5")
         << QByteArray("\x85\x02\x01", 3) << u"85 02 01"_s << u"133 2 1"_s;
     QTest::newRow("zeros inside and at the ends")
@@ -115,7 +112,6 @@ void tst_BytesText::hexFromDecimal_data()
     QTest::newRow("play for player 5") << u"133 2 1"_s << u"85 02 01"_s;
     QTest::newRow("empty text: one empty token") << u""_s << u"00"_s;
     QTest::newRow("null text") << QString() << u"00"_s;
-    QTest::newRow("0") << u"0"_s << u"00"_s;
     QTest::newRow("single blank: two empty tokens") << u" "_s << u"00 00"_s;
     QTest::newRow("double blank: an empty token between") << u"1  2"_s << u"01 00 02"_s;
     QTest::newRow("leading blank") << u" 1"_s << u"00 01"_s;
@@ -125,7 +121,6 @@ void tst_BytesText::hexFromDecimal_data()
     QTest::newRow("above 32 bits") << u"2147483648 1"_s << u"00 01"_s;
     QTest::newRow("far above 64 bits") << u"99999999999999999999999"_s << u"00"_s;
     QTest::newRow("letters") << u"abc 10 FF"_s << u"00 0A 00"_s;
-    QTest::newRow("number and letters") << u"12x"_s << u"00"_s;
     QTest::newRow("fraction") << u"1.5"_s << u"00"_s;
     QTest::newRow("dots") << u"..."_s << u"00"_s;
     QTest::newRow("below 32 bits") << u"-2147483649"_s << u"00"_s;
@@ -145,7 +140,6 @@ void tst_BytesText::decimalFromHex_data()
     QTest::newRow("play for player 5") << u"85 02 01"_s << u"133 2 1"_s;
     QTest::newRow("empty text: one empty token") << u""_s << u"0"_s;
     QTest::newRow("null text") << QString() << u"0"_s;
-    QTest::newRow("00") << u"00"_s << u"0"_s;
     QTest::newRow("one digit") << u"0"_s << u"0"_s;
     QTest::newRow("single blank: two empty tokens") << u" "_s << u"0 0"_s;
     QTest::newRow("double blank: an empty token between") << u"01  0A"_s << u"1 0 10"_s;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "protocol/frameencoder.h"
+#include "tests/support/hexbytes.h"
 #include "tests/support/testregistry.h"
 
 #include <limits>
@@ -29,11 +30,6 @@ DeviceModel model(ProtocolKind protocol, TransportKind transport,
     result.transport = transport;
     result.commands = commands;
     return result;
-}
-
-QByteArray hex(const QByteArray &bytes)
-{
-    return bytes.toHex(' ').toUpper();
 }
 
 constexpr auto Classic = ProtocolKind::Classic;
@@ -68,13 +64,8 @@ private slots:
     void applyFirstByte();
     void applyContacts_data();
     void applyContacts();
-    void subtitleIndexBytes();
     void playerIdByteFromText_data();
     void playerIdByteFromText();
-    void wireFrame_data();
-    void wireFrame();
-    void wholeMessage_data();
-    void wholeMessage();
 };
 
 void tst_FrameEncoder::appendCommand_data()
@@ -85,16 +76,8 @@ void tst_FrameEncoder::appendCommand_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QByteArray>("body");
 
-    const QList<CommandEntry> table{command(1, 1, "00", "7F"), command(4, 2, "01"),
-                                    command(5, 2, "02"), command(99, 8, "")};
-    QTest::newRow("first of the table")
-        << model(Classic, Serial, table) << 1U << true << 1 << "00"_ba;
-    QTest::newRow("in the middle") << model(Classic, Serial, table) << 4U << true << 2 << "01"_ba;
-    QTest::newRow("classic over TCP/IP")
-        << model(Classic, TcpIp, table) << 5U << true << 2 << "02"_ba;
-    QTest::newRow("without data") << model(Classic, Serial, table) << 99U << true << 8 << ""_ba;
-    QTest::newRow("not in the table: code and body stay")
-        << model(Classic, Serial, table) << 6U << false << int(untouched) << ""_ba;
+    QTest::newRow("without data") << model(Classic, Serial, {command(99, 8, "")}) << 99U << true
+                                  << 8 << ""_ba;
     QTest::newRow("model without commands")
         << model(Classic, Serial) << 4U << false << int(untouched) << ""_ba;
     QTest::newRow("default-made command has id 99")
@@ -108,23 +91,12 @@ void tst_FrameEncoder::appendCommand_data()
         << model(Classic, TcpIp, {command(4, 4, "FF FF 33 32")}) << 4U << true << 4
         << "FF FF 33 32"_ba;
 
-    QTest::newRow("extended serial copies the data")
-        << model(Extended, Serial, {command(4, 32, "FF FF FF")}) << 4U << true << 32
-        << "FF FF FF"_ba;
     QTest::newRow("extended serial copies the data of the text code too")
         << model(Extended, Serial, {command(4, 4, "FF FF 33 32")}) << 4U << true << 4
         << "FF FF 33 32"_ba;
     QTest::newRow("extended serial copies short data")
         << model(Extended, Serial, {command(4, 2, "01")}) << 4U << true << 2 << "01"_ba;
-    QTest::newRow("extended serial: not in the table")
-        << model(Extended, Serial, {command(4, 32, "FF FF FF")}) << 6U << false << int(untouched)
-        << ""_ba;
 
-    QTest::newRow("text command") << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32")}) << 4U
-                                  << true << 4 << "00 00 00 63 6D 64 00 33 32 00"_ba;
-    QTest::newRow("text command: one digit")
-        << model(Extended, TcpIp, {command(23, 4, "00 01 30", "03 E7 30")}) << 23U << true << 4
-        << "00 00 00 63 6D 64 00 30 00"_ba;
     QTest::newRow("text command: the longest dataMax changes nothing")
         << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32", "FF FF 33 32 33 34")}) << 4U << true
         << 4 << "00 00 00 63 6D 64 00 33 32 00"_ba;
@@ -140,9 +112,6 @@ void tst_FrameEncoder::appendCommand_data()
         << model(Extended, TcpIp, {command(4, 4, "")}) << 4U << true << 4 << ""_ba;
     QTest::newRow("no text command: another code")
         << model(Extended, TcpIp, {command(4, 2, "FF FF 33 32")}) << 4U << true << 2 << ""_ba;
-    QTest::newRow("connect on demand: not in the table")
-        << model(Extended, TcpIp, {command(4, 4, "FF FF 33 32")}) << 6U << false << int(untouched)
-        << ""_ba;
 
     // The table of a model is not checked for ids listed twice: both bodies travel in one frame.
     QTest::newRow("listed twice: both bodies, the last code") << model(
@@ -168,7 +137,7 @@ void tst_FrameEncoder::appendCommand()
     QByteArray body;
     QTEST(::appendCommand(model, commandId, code, body), "found");
     QTEST(int(code), "code");
-    QTEST(hex(body), "body");
+    QTEST(hexBytes(body), "body");
 }
 
 void tst_FrameEncoder::appendCommandKeepsWhatTheBodyHolds()
@@ -176,47 +145,30 @@ void tst_FrameEncoder::appendCommandKeepsWhatTheBodyHolds()
     quint8 code = 0;
     QByteArray body("\x11", 1);
     QVERIFY(::appendCommand(model(Classic, Serial, {command(4, 2, "01")}), 4, code, body));
-    QCOMPARE(hex(body), "11 01"_ba);
+    QCOMPARE(hexBytes(body), "11 01"_ba);
     QVERIFY(!::appendCommand(model(Classic, Serial, {command(4, 2, "01")}), 5, code, body));
-    QCOMPARE(hex(body), "11 01"_ba);
+    QCOMPARE(hexBytes(body), "11 01"_ba);
 }
 
 void tst_FrameEncoder::appendPlaybackArguments_data()
 {
-    QTest::addColumn<DeviceModel>("model");
     QTest::addColumn<quint32>("commandId");
     QTest::addColumn<QByteArray>("body");
 
-    const auto withArguments = "41 32 35 35 00 32 35 35 00"_ba;
-    const auto asItWas = "41"_ba;
-    const DeviceModel onDemand = model(Extended, TcpIp);
-    QTest::newRow("previous file") << onDemand << 3U << withArguments;
-    QTest::newRow("play") << onDemand << 4U << withArguments;
-    QTest::newRow("stop") << onDemand << 5U << withArguments;
-    QTest::newRow("next file") << onDemand << 7U << withArguments;
-    QTest::newRow("folder: none") << onDemand << 1U << asItWas;
-    QTest::newRow("previous folder: none") << onDemand << 2U << asItWas;
-    QTest::newRow("pause: none") << onDemand << 6U << asItWas;
-    QTest::newRow("next folder: none") << onDemand << 8U << asItWas;
-    QTest::newRow("volume: none") << onDemand << 9U << asItWas;
-    QTest::newRow("standby: none") << onDemand << 12U << asItWas;
-    QTest::newRow("mute: none") << onDemand << 19U << asItWas;
-    for (const quint32 id : {3U, 4U, 5U, 7U}) {
-        QTest::addRow("classic serial, id %u: none", id) << model(Classic, Serial) << id << asItWas;
-        QTest::addRow("classic TCP/IP, id %u: none", id) << model(Classic, TcpIp) << id << asItWas;
-        QTest::addRow("extended serial, id %u: none", id)
-            << model(Extended, Serial) << id << asItWas;
-    }
+    for (const quint32 id : {3U, 4U, 5U, 7U})
+        QTest::addRow("%u", id) << id << "41 32 35 35 00 32 35 35 00"_ba;
+    // The models of this family have none of these commands.
+    for (const quint32 id : {1U, 2U, 6U, 8U, 9U, 12U, 15U, 17U, 19U, 34U})
+        QTest::addRow("%u: none", id) << id << "41"_ba;
 }
 
 void tst_FrameEncoder::appendPlaybackArguments()
 {
-    QFETCH(DeviceModel, model);
     QFETCH(quint32, commandId);
 
     QByteArray body = "A"_ba;
-    ::appendPlaybackArguments(model, commandId, body);
-    QTEST(hex(body), "body");
+    ::appendPlaybackArguments(model(Extended, TcpIp), commandId, body);
+    QTEST(hexBytes(body), "body");
 }
 
 void tst_FrameEncoder::appendVolumeCommand_data()
@@ -229,19 +181,11 @@ void tst_FrameEncoder::appendVolumeCommand_data()
 
     const DeviceModel classic
         = model(Classic, Serial, {command(4, 2, "01"), command(9, 3, "00", "40")});
-    QTest::newRow("classic 0") << classic << 0 << true << 3 << "00"_ba;
-    QTest::newRow("classic 31") << classic << 31 << true << 3 << "1F"_ba;
-    QTest::newRow("classic 64") << classic << 64 << true << 3 << "40"_ba;
-    QTest::newRow("classic 100") << classic << 100 << true << 3 << "64"_ba;
     QTest::newRow("classic 255") << classic << 255 << true << 3 << "FF"_ba;
-    QTest::newRow("classic over TCP/IP")
-        << model(Classic, TcpIp, {command(9, 3, "00", "64")}) << 50 << true << 3 << "32"_ba;
     QTest::newRow("classic: only the first byte is the volume")
         << model(Classic, Serial, {command(9, 3, "0A 0B 0C")}) << 5 << true << 3 << "05 0B 0C"_ba;
     QTest::newRow("classic without data: nothing to write the volume into")
         << model(Classic, Serial, {command(9, 3, "")}) << 5 << true << 3 << ""_ba;
-    QTest::newRow("classic: none")
-        << model(Classic, Serial, {command(4, 2, "01")}) << 5 << false << int(untouched) << ""_ba;
     // The second command's data stands behind the first one's, the volume at the head.
     QTest::newRow("classic: listed twice")
         << model(Classic, Serial, {command(9, 3, "00"), command(9, 5, "0A")}) << 7 << true << 5
@@ -251,9 +195,7 @@ void tst_FrameEncoder::appendVolumeCommand_data()
         << "07"_ba;
 
     const DeviceModel serial = model(Extended, Serial, {command(9, 48, "00 00 00", "00 40 00")});
-    QTest::newRow("extended serial 0") << serial << 0 << true << 48 << "00 00 00"_ba;
     QTest::newRow("extended serial 40") << serial << 40 << true << 48 << "00 28 00"_ba;
-    QTest::newRow("extended serial 64") << serial << 64 << true << 48 << "00 40 00"_ba;
     QTest::newRow("extended serial 255") << serial << 255 << true << 48 << "00 FF 00"_ba;
     QTest::newRow("extended serial: high byte is always 0")
         << model(Extended, Serial, {command(9, 48, "01 02 FF")}) << 9 << true << 48
@@ -264,8 +206,6 @@ void tst_FrameEncoder::appendVolumeCommand_data()
         << model(Extended, Serial, {command(9, 48, "07")}) << 9 << true << 48 << "07"_ba;
     QTest::newRow("extended serial: no data")
         << model(Extended, Serial, {command(9, 48, "")}) << 9 << true << 48 << ""_ba;
-    QTest::newRow("extended serial: none")
-        << model(Extended, Serial) << 9 << false << int(untouched) << ""_ba;
     QTest::newRow("extended serial: listed twice")
         << model(Extended, Serial, {command(9, 48, "01 02"), command(9, 49, "03 04")}) << 9 << true
         << 49 << "00 09 03 04"_ba;
@@ -274,10 +214,7 @@ void tst_FrameEncoder::appendVolumeCommand_data()
     const DeviceModel onDemand = model(Extended, TcpIp, {command(9, 3, "00 00 00", "00 40 00")});
     const QByteArray name
         = "00 00 00 73 65 74 00 56 6F 6C 75 6D 65 4C 6F 63 61 6C 4D 75 73 69 63 00";
-    QTest::newRow("text form 0") << onDemand << 0 << true << 3 << name + " 2D 36 34 00";
     QTest::newRow("text form 40") << onDemand << 40 << true << 3 << name + " 2D 32 34 00";
-    QTest::newRow("text form 63") << onDemand << 63 << true << 3 << name + " 2D 31 00";
-    QTest::newRow("text form 64") << onDemand << 64 << true << 3 << name + " 30 00";
     QTest::newRow("text form 65") << onDemand << 65 << true << 3 << name + " 31 00";
     QTest::newRow("text form 255") << onDemand << 255 << true << 3 << name + " 31 39 31 00";
     QTest::newRow("text form: two bytes are enough")
@@ -312,7 +249,7 @@ void tst_FrameEncoder::appendVolumeCommand()
     QByteArray body;
     QTEST(::appendVolumeCommand(model, static_cast<quint8>(volume), code, body), "found");
     QTEST(int(code), "code");
-    QTEST(hex(body), "body");
+    QTEST(hexBytes(body), "body");
 }
 
 void tst_FrameEncoder::sliderVolumeByte_data()
@@ -400,7 +337,7 @@ void tst_FrameEncoder::applyFolderNumber()
     QByteArray body = QByteArray::fromHex(bodyBefore);
     ::applyFolderNumber(folder, code, body);
     QTEST(int(code), "code");
-    QTEST(hex(body), "body");
+    QTEST(hexBytes(body), "body");
 }
 
 void tst_FrameEncoder::applyFirstByte_data()
@@ -409,22 +346,12 @@ void tst_FrameEncoder::applyFirstByte_data()
     QTest::addColumn<QByteArray>("bodyBefore");
     QTest::addColumn<QByteArray>("body");
 
-    QTest::newRow("0") << 0 << "01"_ba
-                       << "00"_ba;
-    QTest::newRow("1") << 1 << "55"_ba
-                       << "01"_ba;
     QTest::newRow("12") << 12 << "01"_ba
                         << "0C"_ba;
-    QTest::newRow("127") << 127 << "01"_ba
-                         << "7F"_ba;
     QTest::newRow("200: no range check") << 200 << "01"_ba
                                          << "C8"_ba;
-    QTest::newRow("255") << 255 << "01"_ba
-                         << "FF"_ba;
     QTest::newRow("256: low 8 bits") << 256 << "01"_ba
                                      << "00"_ba;
-    QTest::newRow("300: low 8 bits") << 300 << "01"_ba
-                                     << "2C"_ba;
     QTest::newRow("-1: low 8 bits") << -1 << "01"_ba
                                     << "FF"_ba;
     QTest::newRow("the rest of the body stays") << 12 << "01 02 03"_ba
@@ -440,7 +367,7 @@ void tst_FrameEncoder::applyFirstByte()
 
     QByteArray body = QByteArray::fromHex(bodyBefore);
     ::applyFirstByte(value, body);
-    QTEST(hex(body), "body");
+    QTEST(hexBytes(body), "body");
 }
 
 void tst_FrameEncoder::applyContacts_data()
@@ -449,14 +376,8 @@ void tst_FrameEncoder::applyContacts_data()
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QByteArray>("changed");
 
-    QTest::newRow("none") << u"00000000"_s << "0000"_ba
-                          << "00 00"_ba;
-    QTest::newRow("the first") << u"00000001"_s << "0000"_ba
-                               << "01 00"_ba;
     QTest::newRow("first and last") << u"10000001"_s << "00"_ba
                                     << "81"_ba;
-    QTest::newRow("all") << u"11111111"_s << "00"_ba
-                         << "FF"_ba;
     QTest::newRow("what the table holds is added to") << u"00000011"_s << "10"_ba
                                                       << "13"_ba;
     QTest::newRow("modulo 256") << u"11111111"_s << "02"_ba
@@ -472,14 +393,7 @@ void tst_FrameEncoder::applyContacts()
 
     QByteArray changed = QByteArray::fromHex(body);
     ::applyContacts(std::bitset<8>(closed.toStdString()), changed);
-    QTEST(hex(changed), "changed");
-}
-
-void tst_FrameEncoder::subtitleIndexBytes()
-{
-    QCOMPARE(hex(::subtitleIndexBytes(0)), "00"_ba);
-    QCOMPARE(hex(::subtitleIndexBytes(127)), "7F"_ba);
-    QCOMPARE(hex(::subtitleIndexBytes(256)), "00"_ba);
+    QTEST(hexBytes(changed), "changed");
 }
 
 void tst_FrameEncoder::playerIdByteFromText_data()
@@ -487,16 +401,9 @@ void tst_FrameEncoder::playerIdByteFromText_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("byte");
 
-    QTest::newRow("0") << u"0"_s << 0x80;
-    QTest::newRow("1") << u"1"_s << 0x81;
-    QTest::newRow("3") << u"3"_s << 0x83;
-    QTest::newRow("5") << u"5"_s << 0x85;
-    QTest::newRow("64") << u"64"_s << 0xC0;
-    QTest::newRow("127") << u"127"_s << 0xFF;
     QTest::newRow("leading zeros") << u"007"_s << 0x87;
     QTest::newRow("128: no range check") << u"128"_s << 0x00;
     QTest::newRow("200: no range check") << u"200"_s << 0x48;
-    QTest::newRow("255: no range check") << u"255"_s << 0x7F;
     QTest::newRow("256") << u"256"_s << 0x80;
     QTest::newRow("-1") << u"-1"_s << 0x7F;
     QTest::newRow("highest 32-bit number") << u"2147483647"_s << 0x7F;
@@ -508,7 +415,6 @@ void tst_FrameEncoder::playerIdByteFromText_data()
     QTest::newRow("null") << QString() << 0x80;
     QTest::newRow("letters") << u"abc"_s << 0x80;
     QTest::newRow("hexadecimal is none") << u"0x05"_s << 0x80;
-    QTest::newRow("number and letters") << u"5a"_s << 0x80;
     QTest::newRow("fraction") << u"5.0"_s << 0x80;
 }
 
@@ -516,82 +422,6 @@ void tst_FrameEncoder::playerIdByteFromText()
 {
     QFETCH(QString, text);
     QTEST(int(::playerIdByteFromText(text)), "byte");
-}
-
-void tst_FrameEncoder::wireFrame_data()
-{
-    QTest::addColumn<DeviceModel>("model");
-    QTest::addColumn<int>("idByte");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QByteArray>("frame");
-
-    QTest::newRow("classic serial") << model(Classic, Serial) << 0x85 << 2 << "01"_ba
-                                    << "85 02 01"_ba;
-    QTest::newRow("classic TCP/IP") << model(Classic, TcpIp) << 0x80 << 2 << "01"_ba
-                                    << "80 02 01"_ba;
-    QTest::newRow("extended serial: no ID byte") << model(Extended, Serial) << 0x85 << 2 << "01"_ba
-                                                 << "02 01"_ba;
-    QTest::newRow("extended TCP/IP: no ID byte") << model(Extended, TcpIp) << 0x85 << 2 << "01"_ba
-                                                 << "02 01"_ba;
-    QTest::newRow("classic, no body") << model(Classic, Serial) << 0x80 << 8 << ""_ba
-                                      << "80 08"_ba;
-    QTest::newRow("extended, no body") << model(Extended, TcpIp) << 0x80 << 4 << ""_ba
-                                       << "04"_ba;
-    QTest::newRow("classic, zeros") << model(Classic, Serial) << 0 << 0 << "00 00"_ba
-                                    << "00 00 00 00"_ba;
-    QTest::newRow("classic, highest bytes") << model(Classic, Serial) << 255 << 255 << "FF FF"_ba
-                                            << "FF FF FF FF"_ba;
-}
-
-void tst_FrameEncoder::wireFrame()
-{
-    QFETCH(DeviceModel, model);
-    QFETCH(int, idByte);
-    QFETCH(int, code);
-    QFETCH(QByteArray, body);
-    QTEST(hex(::wireFrame(model, static_cast<quint8>(idByte), static_cast<quint8>(code),
-                          QByteArray::fromHex(body))),
-          "frame");
-}
-
-void tst_FrameEncoder::wholeMessage_data()
-{
-    QTest::addColumn<DeviceModel>("model");
-    QTest::addColumn<QString>("playerId");
-    QTest::addColumn<quint32>("commandId");
-    QTest::addColumn<QByteArray>("frame");
-
-    const CommandEntry play = command(4, 2, "01");
-    QTest::newRow("classic, player 5")
-        << model(Classic, Serial, {play}) << u"5"_s << 4U << "85 02 01"_ba;
-    QTest::newRow("extended serial, same command")
-        << model(Extended, Serial, {play}) << u"5"_s << 4U << "02 01"_ba;
-    QTest::newRow("classic, empty player ID")
-        << model(Classic, Serial, {play}) << u""_s << 4U << "80 02 01"_ba;
-    const DeviceModel onDemand = model(
-        Extended, TcpIp,
-        {command(4, 4, "FF FF 33 32"), command(6, 4, "FF FF 33 33"), command(5, 4, "FF FF")});
-    QTest::newRow("connect on demand, play")
-        << onDemand << u"0"_s << 4U
-        << "04 00 00 00 63 6D 64 00 33 32 00 32 35 35 00 32 35 35 00"_ba;
-    QTest::newRow("connect on demand, pause: no arguments")
-        << onDemand << u"0"_s << 6U << "04 00 00 00 63 6D 64 00 33 33 00"_ba;
-    QTest::newRow("connect on demand, data too short for a text command")
-        << model(Extended, TcpIp, {command(2, 4, "FF FF")}) << u"0"_s << 2U << "04"_ba;
-}
-
-void tst_FrameEncoder::wholeMessage()
-{
-    QFETCH(DeviceModel, model);
-    QFETCH(QString, playerId);
-    QFETCH(quint32, commandId);
-
-    quint8 code = 0;
-    QByteArray body;
-    QVERIFY(::appendCommand(model, commandId, code, body));
-    ::appendPlaybackArguments(model, commandId, body);
-    QTEST(hex(::wireFrame(model, ::playerIdByteFromText(playerId), code, body)), "frame");
 }
 
 TESSALY_TEST(tst_FrameEncoder)
