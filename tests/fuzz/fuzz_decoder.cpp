@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "catalogue/devicecatalogue.h"
-#include "catalogue/lightingmodels.h"
+#include "catalogue/commandvalues.h"
+#include "protocol/chosencommand.h"
 #include "simulator/framedecoder.h"
 #include "simulator/framemeaning.h"
 #include "simulator/simulateddevice.h"
 #include "tests/fuzz/fuzztarget.h"
+#include "tests/fuzz/modelinput.h"
+#include "tests/support/builtmodels.h"
 
 #include <QTimeZone>
 
@@ -20,14 +22,11 @@ constexpr qsizetype longestStrayPiece = 64;
 /// More than the longest frame of all models.
 constexpr qsizetype longestFrame = 64;
 constexpr int playerId = 5;
+const QDateTime now(QDate(2026, 3, 7), QTime(14, 5), QTimeZone::utc());
 
-const QList<DeviceModel> &allModels()
+const DeviceCatalogue &allModels()
 {
-    static const QList<DeviceModel> models = [] {
-        DeviceCatalogue catalogue = buildDeviceCatalogue();
-        appendLumoBridge(catalogue);
-        return catalogue;
-    }();
+    static const DeviceCatalogue models = buildDeviceCatalogue() + unofferedModels();
     return models;
 }
 
@@ -37,24 +36,14 @@ struct KnownFrame
     QString label;
 };
 
-/// A frame that the model understands.
+/// A frame that the model understands: its first command without a value, or its first one at all.
 KnownFrame knownFrame(const DeviceModel &model)
 {
-    if (model.name == "Ampra One"_L1)
-        return {"\x85\x03\x1C"_ba, u"Volume 1"_s};
-    if (model.name == "Lumo Bridge"_L1)
-        return {"\x85\x09\x40"_ba, u"Close output contact 1"_s};
-    if (model.name == "Sonet A (Serial)"_L1)
-        return {"\x20\xFF\xFF\xFF"_ba, u"Play"_s};
-    if (model.name == "Sonet A Lite (TCP/IP)"_L1) {
-        return {"\x04\0\0\0"
-                "cmd\0"
-                "32\0"
-                "255\0"
-                "255\0"_ba,
-                u"Play"_s};
-    }
-    return {"\x85\x02\x01"_ba, u"Play"_s};
+    const auto fixed = std::ranges::find_if_not(model.commands, takesNumber);
+    ChosenCommand command{fixed != model.commands.cend() ? *fixed : model.commands.constFirst()};
+    command.number = valueRange(model, command.entry).first;
+    command.language = u"fre"_s;
+    return {frameOf(model, playerId, command, now), command.entry.label};
 }
 
 bool endsWith(const QList<DecodedFrame> &frames, const KnownFrame &known)
@@ -90,7 +79,6 @@ QByteArrayList pieces(const QList<DecodedFrame> &frames)
 /// The simulated device says and does something sensible with it.
 void checkUse(const DeviceModel &model, SimulatedDevice &device, const DecodedFrame &frame)
 {
-    const QDateTime now(QDate(2026, 3, 7), QTime(14, 5), QTimeZone::utc());
     const QString line = frameLine(now, model, device.playerId(), frame);
     expect(std::none_of(line.begin(), line.end(), [](QChar c) { return c.unicode() < 0x20; }),
            "a frame is one line of the log");
@@ -102,15 +90,10 @@ void checkUse(const DeviceModel &model, SimulatedDevice &device, const DecodedFr
 
 } // namespace
 
-/// The first byte chooses the model, "A" the first one; the others arrive at the device.
+/// The first line names the model; what follows arrives at the device.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    if (size == 0)
-        return 0;
-    const DeviceModel &model
-        = allModels().at(static_cast<quint8>(data[0] - 'A') % allModels().size());
-    const QByteArray bytes(reinterpret_cast<const char *>(data) + 1,
-                           static_cast<qsizetype>(size - 1));
+    const auto [model, bytes] = modelInput(allModels(), data, size);
 
     FrameDecoder decoder(model);
     QList<DecodedFrame> frames;
@@ -146,11 +129,11 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     const KnownFrame known = knownFrame(model);
     expect(endsWith(decoder.feed(known.bytes), known),
-           "a frame behind noise and silence is understood");
+           "a frame after noise and silence is understood");
     // Without a silence, the beginning of a frame may take the next one with it.
     FrameDecoder busy(model);
     busy.feed(bytes);
     expect(endsWith(busy.feed(known.bytes + known.bytes), known),
-           "the second frame behind noise is understood");
+           "the second frame after noise is understood");
     return 0;
 }

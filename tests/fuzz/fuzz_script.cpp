@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "catalogue/devicecatalogue.h"
 #include "sender/script.h"
 #include "tests/fuzz/fuzztarget.h"
-
-#include <algorithm>
+#include "tests/fuzz/modelinput.h"
 
 namespace {
 
@@ -24,18 +22,15 @@ void checkStep(const DeviceModel &model, const Step &step)
 
 } // namespace
 
-/// The first byte chooses the model, the others are the script.
+/// The first line names the model; what follows is the script.
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const DeviceCatalogue catalogue = buildDeviceCatalogue();
-    if (size == 0)
-        return 0;
-    const DeviceModel &model = catalogue.at(data[0] % catalogue.size());
-    const QByteArray text(reinterpret_cast<const char *>(data) + 1,
-                          static_cast<qsizetype>(size) - 1);
+    const auto [model, text] = modelInput(catalogue, data, size);
     const Script script = readScript(model, QStringLiteral("x"), text);
     expect(script.steps.isEmpty() != script.errors.isEmpty(), "either steps or errors");
     expect(script.errors.size() <= 11, "few errors are told");
-    std::ranges::for_each(script.steps, [&](const Step &step) { checkStep(model, step); });
+    for (const Step &step : script.steps)
+        checkStep(model, step);
     return 0;
 }
