@@ -3,7 +3,7 @@
 
 #include "sender/script.h"
 
-#include "catalogue/devicecatalogue.h"
+#include "tests/support/modelofname.h"
 #include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,8 +12,7 @@ namespace {
 
 DeviceModel video()
 {
-    const DeviceCatalogue catalogue = buildDeviceCatalogue();
-    return *findModel(catalogue, u"Vistar Show - SV500 (Serial)"_s);
+    return modelOfName(u"Vistar Show - SV500 (Serial)"_s);
 }
 
 QStringList textsOf(const QList<Step> &steps)
@@ -53,13 +52,13 @@ void tst_Script::steps_data()
     QTest::newRow("without a line end") << "play"_ba << play;
     QTest::newRow("line ends of other systems")
         << "play\r\nstop\r\n"_ba << QStringList{u"Play"_s, u"Stop"_s};
-    QTest::newRow("blanks around") << " \t play \t \n"_ba << play;
+    QTest::newRow("spaces around") << " \t play \t \n"_ba << play;
     QTest::newRow("empty lines") << "\n\nplay\n \n"_ba << play;
     QTest::newRow("byte-order mark") << "\xEF\xBB\xBFplay\n"_ba << play;
     QTest::newRow("comment line") << "# stop\n  # stop\nplay\n"_ba << play;
-    QTest::newRow("comment behind a command") << "play # at eight\n"_ba << play;
+    QTest::newRow("comment after a command") << "play # at eight\n"_ba << play;
     QTest::newRow("comment with a quote") << "play # 8 o'clock \"sharp\n"_ba << play;
-    QTest::newRow("comment without a blank") << "play #stop\n"_ba << play;
+    QTest::newRow("comment without a space") << "play #stop\n"_ba << play;
     QTest::newRow("pause") << "play\nwait 2000\nstop\n"_ba
                            << QStringList{u"Play"_s, u"wait 2000"_s, u"Stop"_s};
     QTest::newRow("no pause at all") << "play\nWAIT 0\n"_ba << QStringList{u"Play"_s, u"wait 0"_s};
@@ -147,7 +146,7 @@ void tst_Script::longLines_data()
                                 << u"x:1: Vistar Show - SV500 (Serial) has no command \"zz\""_s;
 }
 
-/// A file that is no script is refused in no time.
+/// A file that is no script is refused at once.
 void tst_Script::longLines()
 {
     QFETCH(const QByteArray, text);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sender/senderoptions.h"
+#include "tests/support/modelsheets.h"
 #include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -138,11 +139,8 @@ private slots:
         const SenderOptions options = parsed({u"--help"_s});
         QVERIFY(options.action == Action::Print);
         QVERIFY(options.text.startsWith("Usage: "_L1));
-        for (const char *option : {"--model", "--id", "--port", "--baud", "--host", "--timeout",
-                                   "--wait", "--text", "--hex", "--dec", "--dry-run", "--script",
-                                   "--gap", "--repeat", "--log", "--list", "--json"}) {
-            QVERIFY2(options.text.contains(QLatin1StringView(option)), option);
-        }
+        QVERIFY(options.text.contains("\n  --model <NAME> "_L1));
+        QVERIFY(options.text.contains("\nExit status: 0 when all is sent "_L1));
     }
 
     void version()
@@ -154,13 +152,14 @@ private slots:
 
     void lists()
     {
-        QVERIFY(parsed({u"--list"_s}).text.startsWith("Tempo Deck: "_L1));
+        const QString first = modelSheets().constFirst().name + ": "_L1;
+        QVERIFY(parsed({u"--list"_s}).text.startsWith(first));
         QVERIFY(parsed({u"--list"_s, u"--json"_s}).text.startsWith("[\n"_L1));
         QVERIFY(
             parsed({u"--list"_s, u"--model"_s, u"ampra one"_s}).text.startsWith("Ampra One: "_L1));
         QVERIFY(parsed({u"--json"_s, u"--model"_s, deck, u"--list"_s}).text.startsWith("{\n"_L1));
         // It is about the catalogue, whatever the console has saved.
-        QVERIFY(parsed({u"--list"_s}, savedVideo()).text.startsWith("Tempo Deck: "_L1));
+        QVERIFY(parsed({u"--list"_s}, savedVideo()).text.startsWith(first));
     }
 
     void savedSettings_data()
@@ -218,9 +217,10 @@ private slots:
         settings.model = u"Tempo Dick"_s;
         const SenderOptions options = parsed({u"play"_s}, settings);
         QVERIFY(options.action == Action::Fail);
-        QCOMPARE(options.text,
-                 u"The console's saved settings name an unknown model, \"Tempo Dick\". "
-                 "Did you mean \"Tempo Deck\"?"_s);
+        QVERIFY2(options.text.startsWith(
+                     "The console's saved settings name an unknown model, \"Tempo Dick\". "
+                     "Did you mean \"Tempo Deck\""_L1),
+                 qPrintable(options.text));
     }
 
     void errors_data()
@@ -236,9 +236,9 @@ private slots:
         row("nothing", {}, u"Which model? Give --model NAME; --list shows the models."_s);
         row("no command", ready, u"Which command? --model \"Tempo Deck\" --list shows them."_s);
         row("unknown model", {u"--model"_s, u"Tempo Dick"_s, u"play"_s},
-            u"There is no model \"Tempo Dick\". Did you mean \"Tempo Deck\"?"_s);
+            u"There is no model \"Tempo Dick\". Did you mean \"Tempo Deck\"*"_s);
         row("unknown model with --list", {u"--list"_s, u"--model"_s, u"Ampra Two"_s},
-            u"There is no model \"Ampra Two\". Did you mean \"Ampra One\"?"_s);
+            u"There is no model \"Ampra Two\". Did you mean \"Ampra One\"*"_s);
         row("unknown command", ready + QStringList{u"pley"_s},
             u"Tempo Deck has no command \"pley\". Did you mean \"Play\" or \"Previous File\" or "
             "\"Previous Folder\"?"_s);
@@ -294,9 +294,14 @@ private slots:
     void errors()
     {
         QFETCH(const QStringList, arguments);
+        QFETCH(const QString, error);
 
         const SenderOptions options = parsed(arguments);
-        QTEST(options.text, "error");
+        // Which models come near is a matter of the models that there are.
+        if (error.endsWith(u'*'))
+            QVERIFY2(options.text.startsWith(error.chopped(1)), qPrintable(options.text));
+        else
+            QCOMPARE(options.text, error);
         QVERIFY(options.action == Action::Fail);
     }
 
@@ -319,7 +324,7 @@ private slots:
                  u"Which serial port? Give --port PORT, such as /dev/ttyUSB0."_s);
     }
 
-    void addressThatIsNotWhole()
+    void addressThatIsNotComplete()
     {
         SavedSettings saved = savedVideo();
         saved.address.at(2).reset();

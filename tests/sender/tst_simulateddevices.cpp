@@ -1,66 +1,45 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "tests/support/folders.h"
+#include "tests/sender/sheetwords.h"
 #include "tests/support/senderprogram.h"
+#include "tests/support/sheetrows.h"
 #include "tests/support/simulatorprogram.h"
-#include "tests/support/tcppeer.h"
 #include "tests/support/testregistry.h"
 
-#include <QDir>
-#include <QFile>
-#include <QHostAddress>
-#include <QMap>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The frames that the simulator's own tests know: "Tempo Deck | ID 5 | 85 02 01 | Play", one for
-/// each command, by their models.
-QMap<QString, QStringList> goldenFrames()
+constexpr int playerId = 5; // of the devices that have one
+
+int ownPlayerId(const ModelSheet &sheet)
 {
-    QMap<QString, QStringList> frames;
-    const QDir folder(sourcePath(u"tests/simulator/golden/frames"_s));
-    for (const QString &name : folder.entryList({u"*.txt"_s}, QDir::Files)) {
-        if (name == "values.txt"_L1 || name == "lumo_bridge.txt"_L1)
-            continue;
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::ReadOnly))
-            qFatal("cannot read %s", qPrintable(name));
-        for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n')) {
-            if (line.contains(" | "_L1))
-                frames[line.section(" | "_L1, 0, 0)].append(line);
-        }
-    }
-    return frames;
+    return sheet.hasPlayerIds() ? playerId : sheet.lowestPlayerId;
 }
 
-/// What a user types to have that frame.
-QString wordsOf(const QString &frame)
+/// The line of a script that sends it.
+QByteArray scriptLine(const SheetFrame &frame)
 {
-    static const QRegularExpression clock(u"^(Set (time|date|date/time|UTC.*\\))) \\d.*$"_s);
-    static const QRegularExpression subtitles(u"^Subtitles (\\w+) \\(.*$"_s);
-    return frame.section(" | "_L1, 3)
-        .replace(clock, u"\\1"_s)
-        .replace(subtitles, u"subtitles \\1"_s)
-        .replace("Request: "_L1, "request "_L1)
-        .replace(", option "_L1, " "_L1);
+    return u"\"%1\"\n"_s.arg(wordsFor(frame).join(u"\" \""_s)).toUtf8();
 }
 
-/// A frame, of those with the computer's time without that.
-QString timeless(const QString &frame)
+/// "Tempo Deck | ID 5 | 80 0C | Set time" of a line with the time of day.
+QString withoutTime(const QString &line, const SheetFrame &frame)
 {
-    static const QRegularExpression clock(
-        u"^(.* \\| .. ..) [^|]* \\| (Set (time|date|date/time|UTC.*\\))) \\d.*$"_s);
-    return QString(frame).replace(clock, u"\\1 | \\2"_s);
+    const QStringList columns = line.split(u" | "_s);
+    if (columns.size() != 4 || !columns.at(3).startsWith(frame.command.label))
+        return line;
+    return QStringList{columns.at(0), columns.at(1), columns.at(2).section(u' ', 0, 1),
+                       frame.command.label}
+        .join(u" | "_s);
 }
 
 } // namespace
 
-/// The program before the simulator of every model.
+/// tessaly-send with the simulator of every model.
 class tst_SimulatedDevices : public QObject
 {
     Q_OBJECT
@@ -68,15 +47,14 @@ class tst_SimulatedDevices : public QObject
 private slots:
     void initTestCase();
     void noAnswer();
-    void answers_data() { addModels(); }
+    void answers_data();
     void answers();
     // Last, as a device may then answer to another player ID.
-    void everyCommand_data() { addModels(); }
+    void everyCommand_data() { addModelRows(); }
     void everyCommand();
 
 private:
-    static void addModels();
-    QStringList linkTo(const QString &model);
+    QStringList linkTo(const ModelSheet &sheet);
 
     const QTemporaryDir m_folder;
     SimulatorProgram m_simulator;
@@ -84,77 +62,86 @@ private:
 
 void tst_SimulatedDevices::initTestCase()
 {
-    QVERIFY(m_simulator.start({u"--all"_s, u"--id"_s, u"5"_s, u"--address"_s,
-                               TcpPeer::address().toString(), u"--link"_s,
+    QVERIFY(m_simulator.start({u"--all"_s, u"--id"_s, QString::number(playerId), u"--address"_s,
+                               SimulatorProgram::firstAddress().toString(), u"--link"_s,
                                m_folder.filePath(u"ports"_s)}));
 }
 
-void tst_SimulatedDevices::addModels()
-{
-    QTest::addColumn<QStringList>("frames");
-
-    const QMap<QString, QStringList> frames = goldenFrames();
-    QCOMPARE(frames.size(), 15);
-    for (auto row = frames.begin(); row != frames.end(); ++row)
-        QTest::addRow("%s", qPrintable(row.key())) << row.value();
-}
-
 /// The options that lead to the simulated device.
-QStringList tst_SimulatedDevices::linkTo(const QString &model)
+QStringList tst_SimulatedDevices::linkTo(const ModelSheet &sheet)
 {
-    const QString place = m_simulator.endpoint(model);
-    QStringList options{u"--model"_s, model};
-    if (model.contains("(TCP/IP)"_L1))
-        return options + QStringList{u"--host"_s, place.section(u' ', 0, 0)};
-    options += {u"--port"_s, place};
-    if (!model.startsWith("Sonet"_L1))
-        options += {u"--id"_s, u"5"_s};
+    const QString place = m_simulator.endpoint(sheet.name);
+    QStringList options{u"--model"_s, sheet.name};
+    options += sheet.isTcp ? QStringList{u"--host"_s, place.section(u' ', 0, 0)}
+                           : QStringList{u"--port"_s, place};
+    if (sheet.hasPlayerIds())
+        options += {u"--id"_s, QString::number(playerId)};
     return options;
 }
 
 void tst_SimulatedDevices::everyCommand()
 {
-    QFETCH(const QStringList, frames);
+    QFETCH(const ModelSheet, sheet);
 
+    // A new player ID comes last: the device does not obey the old one any longer.
+    QList<SheetFrame> frames = framesOf(sheet);
+    std::ranges::stable_partition(frames,
+                                  [](const SheetFrame &frame) { return frame.command.id != 11; });
     QByteArray script;
     QStringList expected;
-    for (const QString &frame : frames) {
-        script += wordsOf(frame).toUtf8() + '\n';
-        expected.append(timeless(frame));
+    bool isObeyed = true;
+    for (const SheetFrame &frame : std::as_const(frames)) {
+        script += scriptLine(frame);
+        const QString line = logLine(sheet, frame, ownPlayerId(sheet));
+        expected.append(frame.carriesTime() ? withoutTime(line, frame) : line);
+        if (!isObeyed)
+            expected.last() += " (for another player, not obeyed)"_L1;
+        isObeyed = isObeyed && frame.command.id != 11;
     }
     m_simulator.forgetFrames();
     SenderProgram sender;
-    const QString model = QString::fromUtf8(QTest::currentDataTag());
     const int status = sender.run(
-        linkTo(model) + QStringList{u"--gap"_s, u"0"_s, u"--script"_s, u"-"_s}, script);
+        linkTo(sheet) + QStringList{u"--gap"_s, u"0"_s, u"--script"_s, u"-"_s}, script);
     QCOMPARE(sender.errors(), QByteArray());
     QCOMPARE(status, 0);
     QCOMPARE(sender.output(), QByteArray());
 
     QTRY_VERIFY(m_simulator.frames().size() >= frames.size());
-    QStringList understood;
-    for (const QString &frame : m_simulator.frames())
-        understood.append(timeless(frame));
+    QStringList understood = m_simulator.frames();
+    for (qsizetype i = 0; i < frames.size(); ++i) {
+        if (frames.at(i).carriesTime())
+            understood[i] = withoutTime(understood.at(i), frames.at(i));
+    }
     QCOMPARE(understood, expected);
+}
+
+void tst_SimulatedDevices::answers_data()
+{
+    QTest::addColumn<QString>("model");
+
+    QTest::newRow("serial") << u"Ampra One"_s;
+    QTest::newRow("network") << u"Vistar Show - SV500 (TCP/IP)"_s;
+    QTest::newRow("connected for each command") << u"Sonet A Lite (TCP/IP)"_s;
 }
 
 void tst_SimulatedDevices::answers()
 {
-    QFETCH(const QStringList, frames);
+    QFETCH(const QString, model);
 
-    const QString model = QString::fromUtf8(QTest::currentDataTag());
+    const ModelSheet &sheet = sheetOf(model);
+    const SheetFrame frame = framesOf(sheet).constFirst();
     SenderProgram sender;
     // Longer and longer, as others use the machine, too.
     for (int wait = 100; wait <= 6400; wait *= 2) {
-        if (sender.run(linkTo(model)
+        if (sender.run(linkTo(sheet)
                            + QStringList{u"--wait"_s, QString::number(wait), u"--script"_s, u"-"_s},
-                       wordsOf(frames.constFirst()).toUtf8())
+                       scriptLine(frame))
             == 0) {
             break;
         }
         QCOMPARE(sender.errors(), QByteArray());
     }
-    QCOMPARE(sender.output(), "OK " + frames.constFirst().section(" | "_L1, 3).toUtf8() + "\r\n");
+    QCOMPARE(sender.output(), "OK " + frame.meaning().toUtf8() + "\r\n");
 }
 
 /// To another player than the one that is there.

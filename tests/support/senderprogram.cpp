@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/senderprogram.h"
-#include "tests/support/folders.h"
 
+#include "tests/support/folders.h"
 #include "tests/support/testedprocess.h"
 
 #include <QTest>

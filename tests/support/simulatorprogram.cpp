@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/simulatorprogram.h"
-#include "tests/support/folders.h"
 
+#include "tests/support/folders.h"
 #include "tests/support/testedprocess.h"
 
 #include <QTest>
@@ -17,6 +17,12 @@ namespace {
 constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 
 } // namespace
+
+QHostAddress SimulatorProgram::firstAddress()
+{
+    const auto process = static_cast<quint32>(QCoreApplication::applicationPid());
+    return QHostAddress(0x7F800000U + 8U * (process % 0x80000U));
+}
 
 SimulatorProgram::SimulatorProgram(const QString &command)
 {

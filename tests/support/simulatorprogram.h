@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHostAddress>
 #include <QProcess>
 #include <QStringList>
 
@@ -10,6 +11,10 @@
 class SimulatorProgram
 {
 public:
+    /// The first of eight addresses of the loopback net that this process has to itself, for the
+    /// models that share a port. Those of TcpPeer are below.
+    static QHostAddress firstAddress();
+
     /// \a command what is started; the built simulator if nothing else is given
     explicit SimulatorProgram(const QString &command = {});
     /// Ends the simulator if it still runs. Fails the test if one that had started has not ended
