@@ -4,6 +4,7 @@
 #include "simulator/answerplayer.h"
 #include "simulator/deviceconnection.h"
 #include "simulator/fault.h"
+#include "tests/support/hexbytes.h"
 #include "tests/support/testregistry.h"
 
 #include <QElapsedTimer>
@@ -61,8 +62,7 @@ private:
 QString stepText(const AnswerStep &step)
 {
     return u"%1 ms %2%3"_s.arg(step.pause.count())
-        .arg(QString::fromLatin1(step.bytes.toHex(' ').toUpper()),
-             step.hangsUp ? u" (hangs up)"_s : QString());
+        .arg(QLatin1String(hexBytes(step.bytes)), step.hangsUp ? u" (hangs up)"_s : QString());
 }
 
 } // namespace
@@ -74,29 +74,22 @@ class tst_Fault : public QObject
 private slots:
     void names()
     {
-        QCOMPARE(faultNames(),
-                 QStringList({u"no-answer"_s, u"single-bytes"_s, u"garbage"_s, u"hang-up"_s,
-                              u"megabyte"_s, u"markup"_s, u"refuse"_s}));
-        for (const QString &name : faultNames())
+        QVERIFY(faultNames().contains(u"hang-up"_s));
+        for (const QString &name : faultNames()) {
             QVERIFY2(makeFault(name), qPrintable(name));
+            QVERIFY2(faultDescriptions().contains(u"  %1 "_s.arg(name, -13)), qPrintable(name));
+        }
         for (const QString &name : {u""_s, u"Hang-up"_s, u"hangup"_s, u"no-answer "_s})
             QVERIFY2(!makeFault(name), qPrintable(name));
     }
 
     void descriptions()
     {
-        const QStringList expected{
-            u"  no-answer     commands are obeyed and never answered"_s,
-            u"  single-bytes  answers come byte by byte, with pauses"_s,
-            u"  garbage       bytes without meaning stand between the answers"_s,
-            u"  hang-up       the link is cut in the middle of each answer"_s,
-            u"  megabyte      each answer is a megabyte long"_s,
-            u"  markup        answers contain markup and pictures to load"_s,
-            u"  refuse        nobody is reached for three seconds after the start"_s,
-            u"                and, over TCP/IP, after each connection"_s,
-            QString(),
-        };
-        QCOMPARE(faultDescriptions().split(u'\n'), expected);
+        const QStringList lines = faultDescriptions().split(u'\n');
+        QCOMPARE(lines.constFirst(), u"  no-answer     commands are obeyed and never answered"_s);
+        QCOMPARE(lines.constLast(), QString());
+        for (const QString &line : lines)
+            QVERIFY2(line.size() < 80, qPrintable(line));
     }
 
     void steps_data()
