@@ -1,18 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
-#include "catalogue/devicecatalogue.h"
-#include "catalogue/listnumbers.h"
 #include "tests/support/folders.h"
+#include "tests/support/modelsheets.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/simulatorprogram.h"
-#include "tests/support/tcppeer.h"
 #include "tests/support/testedprocess.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QHostAddress>
 #include <QPainter>
 #include <QProcess>
 #include <QScreen>
@@ -46,22 +43,21 @@ struct Look
 };
 
 /// The start-up settings that choose a model and, if wanted, connect.
-QByteArray settings(const DeviceModel &model, const QString &endpoint, bool isConnected)
+QByteArray settings(const ModelSheet &sheet, const QString &endpoint, bool isConnected)
 {
-    const bool isSerial = model.transport == TransportKind::Serial;
     const QStringList address
-        = (isSerial ? u"192.168.1.20"_s : endpoint.section(u' ', 0, 0)).split(u'.');
+        = (sheet.isTcp ? endpoint.section(u' ', 0, 0) : u"192.168.1.20"_s).split(u'.');
     const QStringList lines{u"TSY11.00"_s,
                             u"Tessaly (Configuration File)"_s,
                             u"Generate by: scripts/screenshots"_s,
                             u"*** Default Language:"_s,
                             u"(default)"_s,
                             u"*** Default Device:"_s,
-                            model.name,
+                            sheet.name,
                             u"*** Default Serial Port:"_s,
-                            isSerial ? endpoint : u"(default)"_s,
+                            sheet.isTcp ? u"(default)"_s : endpoint,
                             u"*** Default Baudrate:"_s,
-                            QString::number(model.defaultBaudRate),
+                            QString::number(sheet.defaultBaudRate),
                             u"*** Default IP Address:"_s,
                             address.at(0),
                             address.at(1),
@@ -151,17 +147,17 @@ public:
     bool photographLanguage(const QString &locale, const QDir &folder);
 
 private:
-    QImage take(const DeviceModel &model, const Look &look);
+    QImage take(const ModelSheet &sheet, const Look &look);
 
     SimulatorProgram &m_simulator;
 };
 
-QImage Photographer::take(const DeviceModel &model, const Look &look)
+QImage Photographer::take(const ModelSheet &sheet, const Look &look)
 {
     const QTemporaryDir home;
-    const QString endpoint = m_simulator.endpoint(model.name);
+    const QString endpoint = m_simulator.endpoint(sheet.name);
     if (!write(home.filePath(u"Ambrette/Tessaly/Tessaly.cfg"_s),
-               settings(model, endpoint, look.isConnected))
+               settings(sheet, endpoint, look.isConnected))
         || !write(home.filePath(u".config/kdeglobals"_s), look.isDark ? darkColours() : "")) {
         return {};
     }
@@ -203,23 +199,24 @@ bool Photographer::photographLanguage(const QString &locale, const QDir &folder)
                 looks.append({locale, isDark, scale, isConnected});
         }
     }
-    const DeviceCatalogue catalogue = buildDeviceCatalogue();
+    const QList<ModelSheet> &models = modelSheets();
     const QSize cell = thumbnailSize + QSize(gap, gap + captionHeight);
     QImage sheet(cell.width() * static_cast<int>(looks.size()) + gap,
-                 cell.height() * static_cast<int>(catalogue.size()) + gap, QImage::Format_RGB32);
+                 cell.height() * static_cast<int>(models.size()) + gap, QImage::Format_RGB32);
     sheet.fill(Qt::gray);
     QPainter painter(&sheet);
 
-    for (int row = 0; row < catalogue.size(); ++row) {
+    for (int row = 0; row < models.size(); ++row) {
         for (int column = 0; column < looks.size(); ++column) {
-            const DeviceModel &model = catalogue.at(row);
+            const ModelSheet &model = models.at(row);
             const Look &look = looks.at(column);
             const QImage image = take(model, look);
             if (image.isNull()) {
                 qWarning().noquote() << "no picture of" << model.name << language << look.name();
                 return false;
             }
-            const QString name = u"%1-%2-%3.png"_s.arg(paddedNumber(row), model.name, look.name());
+            const QString name = u"%1-%2-%3.png"_s.arg(QString::number(row).rightJustified(3, u'0'),
+                                                       model.name, look.name());
             const QDir pictures(folder.filePath(language));
             if (!pictures.mkpath(u"."_s)
                 || !image.save(pictures.filePath(QString(name).replace(u'/', u'-')))) {
@@ -264,7 +261,7 @@ int main(int argc, char *argv[])
     }
     SimulatorProgram simulator;
     if (!simulator.start({u"--all"_s, u"--link"_s, folder.filePath(u"ports"_s), u"--address"_s,
-                          TcpPeer::address().toString()})) {
+                          SimulatorProgram::firstAddress().toString()})) {
         qWarning().noquote() << simulator.errorOutput();
         return EXIT_FAILURE;
     }

@@ -1,25 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/program/usermoves.h"
 #include "tests/support/consoleprogram.h"
-#include "tests/support/folders.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QHash>
 #include <QHostAddress>
 #include <QLabel>
+#include <QMap>
 
 #include <limits>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int defaultCommandCount = 1000; // about three rounds over all models
+constexpr int defaultCommandCount = 1000; // about two rounds over all models
 constexpr int highestCommandCount = 100'000'000;
 constexpr int timeLimit = 20'000; // in ms; reached only by what fails
 #ifdef __SANITIZE_ADDRESS__
@@ -28,166 +29,6 @@ constexpr int growthLimit = std::numeric_limits<int>::max();
 #else
 constexpr int growthLimit = 2048; // in KiB
 #endif
-
-enum class Link { Serial, Tcp, OnDemand };
-
-struct Model
-{
-    QString name;
-    Link link;
-    QString commandsFile; ///< in the golden folder "commands"
-    QString requestsFile; ///< in the golden folder "requests"
-};
-
-const QList<Model> &models()
-{
-    static const QList<Model> all{
-        {u"Tempo Deck"_s, Link::Serial, u"00_tempo_deck"_s, u"tempo_deck"_s},
-        {u"Show Deck (Gen 2)"_s, Link::Serial, u"01_show_deck_gen_2"_s, u"show_deck_gen2"_s},
-        {u"Vistar Show - SV500 (Serial)"_s, Link::Serial, u"02_vistar_show_sv500_serial"_s,
-         u"vistar_show_serial"_s},
-        {u"Vistar Show - SV500 (TCP/IP)"_s, Link::Tcp, u"03_vistar_show_sv500_tcp_ip"_s,
-         u"vistar_show_tcp"_s},
-        {u"Ampra One"_s, Link::Serial, u"04_ampra_one"_s, u"ampra_one"_s},
-        {u"Pico Deck Gen 2/3"_s, Link::Serial, u"05_pico_deck_gen_2_3"_s, u"pico_deck_gen23"_s},
-        {u"Sonet A (Serial)"_s, Link::Serial, u"06_sonet_a_serial"_s, u"sonet_a_serial"_s},
-        {u"Sonet A Lite (TCP/IP)"_s, Link::OnDemand, u"07_sonet_a_lite_tcp_ip"_s,
-         u"sonet_a_lite_tcp"_s},
-        {u"Vistar Home - HV4xx (Serial)"_s, Link::Serial, u"08_vistar_home_hv4xx_serial"_s,
-         u"vistar_home_serial"_s},
-        {u"Vistar Home - HV4xx (TCP/IP)"_s, Link::Tcp, u"09_vistar_home_hv4xx_tcp_ip"_s,
-         u"vistar_home_tcp"_s},
-        {u"HV1xx (Serial) (legacy)"_s, Link::Serial, u"10_hv1xx_serial_legacy"_s,
-         u"hv1xx_serial"_s},
-        {u"HV1xx (TCP/IP) (legacy)"_s, Link::Tcp, u"11_hv1xx_tcp_ip_legacy"_s, u"hv1xx_tcp"_s},
-        {u"Pico Deck (legacy)"_s, Link::Serial, u"12_pico_deck_legacy"_s, u"pico_deck_legacy"_s},
-        {u"Card Deck HD (legacy)"_s, Link::Serial, u"13_card_deck_hd_legacy"_s, u"card_deck_hd"_s},
-        {u"HV0xx (legacy)"_s, Link::Serial, u"14_hv0xx_legacy"_s, u"hv0xx"_s},
-    };
-    return all;
-}
-
-/// What one move of the user sends.
-struct Command
-{
-    QString list; ///< where `text` is chosen first; empty: nowhere
-    QString text;
-    QString move;   ///< the button to click or, as xdotool names it, the key to press
-    QString bytes;  ///< "80 02 01"; empty: none
-    QString volume; ///< what the volume's label reads from now on; empty: what it did before
-};
-
-/// What a player gets in one visit, from a state that the visit itself restores.
-struct Programme
-{
-    QString playerId;
-    QList<Command> moves;   ///< to be made one after the other, in this order
-    QList<Command> choices; ///< to be made behind them, in any order
-};
-
-QString keyName(const QString &control)
-{
-    static const QHash<QString, QString> names{
-        {u"Ctrl++"_s, u"ctrl+plus"_s},
-        {u"Ctrl+-"_s, u"ctrl+minus"_s},
-        {u"Media Play"_s, u"XF86AudioPlay"_s},
-        {u"Media Stop"_s, u"XF86AudioStop"_s},
-        {u"Media Pause"_s, u"XF86AudioPause"_s},
-        {u"Media Next"_s, u"XF86AudioNext"_s},
-        {u"Media Previous"_s, u"XF86AudioPrev"_s},
-        {u"Ctrl+Media Next"_s, u"ctrl+XF86AudioNext"_s},
-        {u"Ctrl+Media Previous"_s, u"ctrl+XF86AudioPrev"_s},
-        {u"Volume Mute"_s, u"XF86AudioMute"_s},
-    };
-    return names.value(control, control.toLower());
-}
-
-/// The columns of each line that is neither empty nor a comment.
-QList<QStringList> readColumns(const QString &name)
-{
-    QFile file(sourcePath("tests/protocol/golden/"_L1 + name + ".txt"_L1));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s: %s", qPrintable(file.fileName()), qPrintable(file.errorString()));
-    QList<QStringList> lines;
-    while (!file.atEnd()) {
-        const QString line = QString::fromUtf8(file.readLine()).trimmed();
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        QStringList columns = line.split(u" | "_s);
-        for (QString &column : columns) {
-            column = column.trimmed();
-            if (column == "-"_L1)
-                column.clear();
-        }
-        lines.append(columns);
-    }
-    return lines;
-}
-
-/// "model | player ID | control or key | bytes | volume", see tst_commands. The slider is not
-/// drawn, so what a key adds to the volume drawn before is left out.
-QList<Programme> readCommands(const QString &name)
-{
-    QList<Programme> programmes;
-    bool isDrawn = false;
-    for (const QStringList &line : readColumns("commands/"_L1 + name)) {
-        if (programmes.isEmpty() || programmes.constLast().playerId != line.at(1)) {
-            programmes.append({line.at(1), {}, {}});
-            isDrawn = false;
-        }
-        Programme &programme = programmes.last();
-        const QString &control = line.at(2);
-        const QString &bytes = line.at(3);
-        const QStringList choice = control.split(u" = "_s);
-        if (control.startsWith("horizontalSlider_"_L1))
-            isDrawn = true;
-        else if (choice.size() == 2)
-            programme.choices.append({choice.first(),
-                                      choice.last(),
-                                      "pushButton"_L1 + choice.first().sliced(8),
-                                      bytes,
-                                      {}});
-        else if (control.startsWith("on_"_L1)) // has neither button nor key
-            continue;
-        else if (control.startsWith("pushButton_"_L1)) {
-            isDrawn = false;
-            programme.moves.append({{}, {}, control, bytes, line.value(4)});
-        } else if (!isDrawn) {
-            programme.moves.append({{}, {}, keyName(control), bytes, line.value(4)});
-        }
-    }
-    return programmes;
-}
-
-/// "list | label | reference | option | web radio | bytes". What needs further choices is left out,
-/// and so is what sends the time of day.
-QList<Command> readRequests(const QString &name)
-{
-    static const QHash<QString, std::pair<QString, QString>> widgets{
-        {u"request"_s, {u"comboBox_Request"_s, u"pushButton_Request"_s}},
-        {u"other"_s, {u"comboBox_Other_Command"_s, u"pushButton_Other_Command"_s}},
-        {u"source"_s, {u"comboBox_Source_Of_Playback"_s, u"pushButton_Launch_Playback"_s}},
-    };
-    QList<Command> commands;
-    for (const QStringList &line : readColumns("requests/"_L1 + name)) {
-        const QString &label = line.at(1);
-        const bool isClock = label.startsWith("Set time"_L1) || label.startsWith("Set date"_L1)
-                             || label.startsWith("Set UTC"_L1);
-        const bool isAlone = line.at(2).isEmpty() && line.at(3).isEmpty() && line.at(4).isEmpty();
-        if (isClock || !isAlone)
-            continue;
-        const auto [list, button] = widgets.value(line.at(0));
-        commands.append({list, label, button, line.at(5), {}});
-    }
-    return commands;
-}
-
-/// The player that the lists of requests are written for.
-bool isPlayerOfRequests(const Programme &programme, const Model &model)
-{
-    return model.link != Link::Serial || model.name == "Sonet A (Serial)"_L1
-           || programme.playerId == "5"_L1;
-}
 
 /// What a process has for itself, in KiB. Pages of files are left out: how many of those are
 /// counted depends on who else uses them.
@@ -209,8 +50,8 @@ int memoryOf(qint64 process)
 
 } // namespace
 
-/// The built console, used for long: it visits one model after the other, connects, sends what the
-/// golden files list, and disconnects.
+/// The built console, used for long: it visits one model after the other, connects, sends frames of
+/// the sheet, and disconnects.
 class tst_Soak : public QObject
 {
     Q_OBJECT
@@ -225,11 +66,10 @@ private slots:
     void sendsTheSameAndKeepsNothing();
 
 private:
-    void visit(const Model &model, int round);
-    void chooseLink(const Model &model);
-    void operate(const QList<Command> &moves);
-    void choose(const Command &choice);
-    void expect(const QList<Command> &sent);
+    void visit(const ModelSheet &sheet, int round);
+    void chooseLink(const ModelSheet &sheet);
+    void operate(const ModelSheet &sheet, const QList<UserMove> &moves);
+    void expect(const ModelSheet &sheet, const QList<UserMove> &moves);
     QByteArray received();
     QByteArray takeReceived();
     bool nobodyReceives();
@@ -238,12 +78,12 @@ private:
     int m_sent = 0;
     int m_visits = 0;
     bool m_hasAddress = false;
+    int m_playerId = 0; ///< that the window shows
 
     PtyPeer m_ports[2];
-    TcpPeer m_player{65079};
-    TcpPeer m_onDemandPlayer{1234};
-    PtyPeer *m_port = nullptr; ///< of this visit; none: TCP
-    TcpPeer *m_tcp = nullptr;  ///< of this visit; none: serial
+    QMap<quint16, std::shared_ptr<TcpPeer>> m_players; ///< by their TCP ports
+    PtyPeer *m_port = nullptr;                         ///< of this visit; none: TCP
+    TcpPeer *m_tcp = nullptr;                          ///< of this visit; none: serial
     ConsoleProgram m_console{m_ports[0].portName() + u':' + m_ports[1].portName()};
 };
 
@@ -260,106 +100,99 @@ QByteArray tst_Soak::takeReceived()
 bool tst_Soak::nobodyReceives()
 {
     return m_ports[0].received().isEmpty() && m_ports[1].received().isEmpty()
-           && m_player.received().isEmpty() && m_onDemandPlayer.received().isEmpty();
+           && std::ranges::all_of(m_players, [](const std::shared_ptr<TcpPeer> &player) {
+                  return player->received().isEmpty();
+              });
 }
 
-void tst_Soak::expect(const QList<Command> &sent)
+void tst_Soak::expect(const ModelSheet &sheet, const QList<UserMove> &moves)
 {
-    QStringList bytes;
-    for (const Command &command : sent) {
-        if (!command.volume.isEmpty())
-            m_console.twin<QLabel>("label_Volume_2")->setText(command.volume);
-        if (!command.bytes.isEmpty())
-            bytes.append(command.bytes);
+    QByteArray expected;
+    QByteArray last;
+    for (const UserMove &move : moves) {
+        last = sheet.addressed(move.frame.bytes, m_playerId);
+        expected += last;
+        if (move.frame.command.id == 9)
+            m_console.twin<QLabel>("label_Volume_2")->setText(move.frame.value);
     }
-    if (bytes.isEmpty())
-        return;
-    const QString expected = bytes.join(u' ');
-    const qsizetype size = (expected.size() + 1) / 3;
-    const bool allArrived = QTest::qWaitFor([&] { return received().size() >= size; }, timeLimit);
-    QCOMPARE(QString::fromLatin1(takeReceived().toHex(' ').toUpper()), expected);
+    const bool allArrived
+        = QTest::qWaitFor([&] { return received().size() >= expected.size(); }, timeLimit);
+    QCOMPARE(hexBytes(takeReceived()), hexBytes(expected));
     QVERIFY(allArrived);
-    m_console.twin<QLabel>("label_Bytes_Sended")->setText(bytes.constLast());
-    m_sent += static_cast<int>(bytes.size());
+    m_console.twin<QLabel>("label_Bytes_Sended")->setText(QLatin1String(hexBytes(last)));
+    m_sent += static_cast<int>(moves.size());
 
-    // Its next command would be written twice while this connection is there.
-    if (m_tcp == &m_onDemandPlayer) {
-        QTRY_VERIFY(m_tcp->isConnected());
+    // The device's next command would be written twice while this connection is there.
+    if (sheet.connectsOnDemand()) {
+        QTRY_VERIFY_WITH_TIMEOUT(m_tcp->isConnected(), timeLimit);
         m_tcp->stopSending();
         QTRY_VERIFY_WITH_TIMEOUT(!m_tcp->isConnected(), timeLimit);
     }
 }
 
-void tst_Soak::operate(const QList<Command> &moves)
+/// Makes moves that need no more choices.
+void tst_Soak::operate(const ModelSheet &sheet, const QList<UserMove> &moves)
 {
     QStringList inputs;
-    for (const Command &command : moves)
-        inputs.append(command.move);
+    for (const UserMove &move : moves)
+        inputs.append(move.input);
     QVERIFY(m_console.perform(inputs));
-    expect(moves);
+    expect(sheet, moves);
 }
 
-void tst_Soak::choose(const Command &choice)
-{
-    const QByteArray list = choice.list.toLatin1();
-    QVERIFY(m_console.choose(list.constData(), choice.text));
-    operate({choice});
-}
-
-void tst_Soak::chooseLink(const Model &model)
+void tst_Soak::chooseLink(const ModelSheet &sheet)
 {
     m_port = nullptr;
     m_tcp = nullptr;
-    if (model.link == Link::Serial) {
+    if (!sheet.isTcp) {
         m_port = &m_ports[m_visits % 2];
         QVERIFY(m_console.choose("comboBox_Port", m_port->portName()));
         return;
     }
-    m_tcp = model.link == Link::OnDemand ? &m_onDemandPlayer : &m_player;
+    std::shared_ptr<TcpPeer> &player = m_players[sheet.tcpPort];
+    if (!player)
+        player = std::make_shared<TcpPeer>(sheet.tcpPort);
+    m_tcp = player.get();
     // It stays, whichever model is chosen.
     if (!m_hasAddress)
         QVERIFY(m_console.typeAddress(TcpPeer::address().toString()));
     m_hasAddress = true;
 }
 
-void tst_Soak::visit(const Model &model, int round)
+void tst_Soak::visit(const ModelSheet &sheet, int round)
 {
-    const QList<Programme> programmes = readCommands(model.commandsFile);
-    const Programme &programme = programmes.at((round + m_visits) % programmes.size());
-    const bool isOnDemand = model.link == Link::OnDemand;
+    const QList<int> players = sheet.playerIdSamples();
+    m_playerId = players.at((round + m_visits) % players.size());
     ++m_visits;
 
-    QVERIFY(m_console.choose("comboBox_Player", model.name));
-    chooseLink(model);
+    QVERIFY(m_console.choose("comboBox_Player", sheet.name));
+    chooseLink(sheet);
     if (QTest::currentTestFailed())
         return;
-    if (!isOnDemand) {
+    if (!sheet.connectsOnDemand()) {
         QVERIFY(m_console.click("pushButton_Connect"));
         m_console.expectLink(true);
     }
-    if (programmes.size() > 1)
-        QVERIFY(m_console.choose("comboBox_ID", programme.playerId));
+    if (sheet.hasPlayerIds())
+        QVERIFY(m_console.choose("comboBox_ID", QString::number(m_playerId)));
 
-    // Where each command has a connection of its own, the next one waits for the end of that.
-    if (isOnDemand) {
-        for (const Command &command : programme.moves) {
-            operate({command});
-            if (QTest::currentTestFailed())
-                return;
-        }
-    } else {
-        operate(programme.moves);
+    // Twice in a go; but where each command has a connection of its own, the next one waits for the
+    // end of that.
+    QList<UserMove> moves = plainMoves(sheet);
+    if (!sheet.connectsOnDemand())
+        moves += moves;
+    const qsizetype atOnce = sheet.connectsOnDemand() ? 1 : moves.size();
+    for (qsizetype i = 0; i < moves.size() && !QTest::currentTestFailed(); i += atOnce)
+        operate(sheet, moves.sliced(i, atOnce));
+    // Two of the lists' rows, others in each round.
+    const QList<UserMove> choosing = choosingMoves(sheet);
+    for (int i = 0; i < 2 && !choosing.isEmpty() && !QTest::currentTestFailed(); ++i) {
+        const UserMove &move = choosing.at((2 * round + i) % choosing.size());
+        for (const UserMove::Choice &choice : move.choices)
+            QVERIFY(m_console.choose(choice.list.constData(), choice.text));
+        operate(sheet, {move});
     }
-    QList<QList<Command>> lists{programme.choices};
-    if (isPlayerOfRequests(programme, model))
-        lists.append(readRequests(model.requestsFile));
-    for (const QList<Command> &list : std::as_const(lists)) {
-        if (QTest::currentTestFailed())
-            return;
-        if (!list.isEmpty())
-            choose(list.at(round % list.size()));
-    }
-    if (QTest::currentTestFailed() || isOnDemand)
+    if (QTest::currentTestFailed() || sheet.connectsOnDemand())
         return;
 
     const QByteArray answer = QByteArray("OK\r\n").repeated(100);
@@ -381,11 +214,11 @@ void tst_Soak::sendsTheSameAndKeepsNothing()
     int last = 0;
     int nextReport = 0;
     for (int round = 0; m_sent < m_commandCount; ++round) {
-        for (const Model &model : models()) {
+        for (const ModelSheet &sheet : modelSheets()) {
             const int sentBefore = m_sent;
-            visit(model, round);
+            visit(sheet, round);
             if (QTest::currentTestFailed()) {
-                qWarning() << "round" << round << model.name << "after" << m_sent << "commands";
+                qWarning() << "round" << round << sheet.name << "after" << m_sent << "commands";
                 return;
             }
             QVERIFY(m_sent > sentBefore);
@@ -416,7 +249,7 @@ void tst_Soak::sendsTheSameAndKeepsNothing()
 
 namespace {
 
-/// A number as the first argument is the least number of commands to send.
+/// A number as the first argument is the minimum number of commands to send.
 int runSoakTest(int argc, char *argv[])
 {
     VirtualScreen screen;

@@ -4,10 +4,8 @@
 #include "tests/support/consoleprogram.h"
 #include "tests/support/programtestmain.h"
 #include "tests/support/simulatorprogram.h"
-#include "tests/support/tcppeer.h"
 
 #include <QApplication>
-#include <QHostAddress>
 #include <QLabel>
 #include <QTextStream>
 
@@ -124,7 +122,7 @@ bool Visit::videoPlayerInNetwork()
     m_console.expectLink(true);
     return m_console.click("pushButton_Standby_Wakeup") && understands({u"Standby/Wakeup"_s})
            && shows(u"OK Standby/Wakeup\n"_s)
-           && m_console.choose("comboBox_Subtitles_Value", {u"f"_s, u"r"_s, u"e"_s}, 137)
+           && m_console.choose("comboBox_Subtitles_Value", u"fre"_s)
            && m_console.click("pushButton_Subtitles_Select")
            && understands({u"Subtitles fre (ISO639-2 (B))"_s})
            && photograph(u"video-player-network"_s)
@@ -169,8 +167,8 @@ bool Visit::amplifier()
 bool play(const QString &linkFolder)
 {
     SimulatorProgram simulator;
-    if (!simulator.start(
-            {u"--all"_s, u"--link"_s, linkFolder, u"--address"_s, TcpPeer::address().toString()})) {
+    if (!simulator.start({u"--all"_s, u"--link"_s, linkFolder, u"--address"_s,
+                          SimulatorProgram::firstAddress().toString()})) {
         say("The simulator does not start: "_L1 + QString::fromUtf8(simulator.errorOutput()));
         return false;
     }

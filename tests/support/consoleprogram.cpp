@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -48,10 +49,24 @@ bool runXdotool(const QStringList &arguments)
     return exitCode == 0;
 }
 
+/// Looks less and less often, as each look takes the processor's time from what is waited for.
+template<typename Condition>
+bool poll(Condition condition, int limit = timeLimit)
+{
+    constexpr int longestPause = 200; // in ms
+    const QDeadlineTimer deadline(limit);
+    for (int pause = 5; !condition(); pause = std::min(2 * pause, longestPause)) {
+        if (deadline.hasExpired())
+            return false;
+        QTest::qWait(pause);
+    }
+    return true;
+}
+
 template<typename Condition>
 bool waitFor(const char *what, Condition condition)
 {
-    const bool done = QTest::qWaitFor(condition, timeLimit);
+    const bool done = poll(condition);
     if (!done)
         qWarning("waited in vain: %s", what);
     return done;
@@ -170,14 +185,12 @@ bool ConsoleProgram::looksAsExpected() const
 bool ConsoleProgram::looksAsExpected(const char *widget) const
 {
     const auto *expected = twin<QWidget>(widget);
-    const bool alike = QTest::qWaitFor(
-        [&] {
-            const QPoint corner = geometry(title()).topLeft();
-            const QRect place(expected->mapTo(m_twin.get(), QPoint()), expected->size());
-            return screenshot(place.translated(corner))
-                   == m_twin->grab(place).toImage().convertToFormat(QImage::Format_RGB32);
-        },
-        timeLimit);
+    const bool alike = poll([&] {
+        const QPoint corner = geometry(title()).topLeft();
+        const QRect place(expected->mapTo(m_twin.get(), QPoint()), expected->size());
+        return screenshot(place.translated(corner))
+               == m_twin->grab(place).toImage().convertToFormat(QImage::Format_RGB32);
+    });
     if (!alike) {
         qWarning("%s does not look as expected", widget);
         saveScreenshot(u"unexpected"_s);
@@ -188,12 +201,10 @@ bool ConsoleProgram::looksAsExpected(const char *widget) const
 bool ConsoleProgram::looksLike(const QWidget *twin, const QString &title) const
 {
     QString found;
-    const bool alike = QTest::qWaitFor(
-        [&] {
-            found = difference(twin, title);
-            return found.isEmpty();
-        },
-        timeLimit);
+    const bool alike = poll([&] {
+        found = difference(twin, title);
+        return found.isEmpty();
+    });
     if (!alike) {
         qWarning() << "the window does not look as expected:" << found;
         saveScreenshot(u"unexpected"_s, title);
@@ -283,19 +294,29 @@ bool ConsoleProgram::choose(const char *comboBox, const QStringList &keys, int e
 
 bool ConsoleProgram::choose(const char *comboBox, const QString &text)
 {
-    const int row = twin<QComboBox>(comboBox)->findText(text);
+    const auto *list = twin<QComboBox>(comboBox);
+    const int row = list->findText(text);
     if (row < 0) {
         qWarning() << text << "is not in" << comboBox;
         return false;
     }
+    const int rowsBelow = list->count() - 1 - row;
+    if (row < longList)
+        return choose(comboBox, QStringList{u"Home"_s} + QStringList(row, u"Down"_s), row);
+    if (rowsBelow < longList)
+        return choose(comboBox, QStringList{u"End"_s} + QStringList(rowsBelow, u"Up"_s), row);
+
     QStringList keys{u"Home"_s};
-    if (row < longList) {
-        keys += QStringList(row, u"Down"_s);
-    } else {
-        for (const QChar key : text)
-            keys.append(key);
-    }
-    return choose(comboBox, keys, row);
+    for (const QChar key : text)
+        keys.append(key);
+    // What was typed just before would belong to the same word.
+    const bool isApart = waitFor("the end of a word", [this] {
+        return !m_sinceTyping.isValid()
+               || m_sinceTyping.hasExpired(QApplication::keyboardInputInterval());
+    });
+    const bool isChosen = isApart && choose(comboBox, keys, row);
+    m_sinceTyping.start();
+    return isChosen;
 }
 
 bool ConsoleProgram::typeAddress(const QString &address)
@@ -314,22 +335,36 @@ bool ConsoleProgram::typeAddress(const QString &address)
 
 bool ConsoleProgram::copies(const QString &text, int limit) const
 {
+    return copies([&text](const QString &copied) { return copied == text; }, text, limit);
+}
+
+bool ConsoleProgram::copiesMatch(const QString &pattern) const
+{
+    const QRegularExpression expression(QRegularExpression::anchoredPattern(pattern));
+    return copies(
+        [&expression](const QString &copied) { return expression.match(copied).hasMatch(); },
+        pattern, timeLimit);
+}
+
+bool ConsoleProgram::copies(const std::function<bool(const QString &)> &isExpected,
+                            const QString &expected, int limit) const
+{
     QString copied;
     // Until the owner's announcement is here, the owner refuses the test as one that comes too
     // late.
     QSignalSpy announced(QGuiApplication::clipboard(), &QClipboard::dataChanged);
-    const bool done = QTest::qWaitFor(
+    const bool done = poll(
         [&] {
             announced.clear();
             if (!press({u"ctrl+a"_s, u"ctrl+c"_s}) || !announced.wait(1000))
                 return false;
             copied = QGuiApplication::clipboard()->text();
-            return copied == text;
+            return isExpected(copied);
         },
         limit);
     if (!done) {
         qWarning() << "copied" << copied.size() << "characters:" << excerpt(copied) << "instead of"
-                   << text.size() << "characters:" << excerpt(text);
+                   << expected.size() << "characters:" << excerpt(expected);
         saveScreenshot(u"unexpected"_s);
     }
     return done;

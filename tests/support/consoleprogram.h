@@ -5,11 +5,13 @@
 
 #include "app/mainwindow.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 /// The built program on the test's X display, with the moves of its user: real clicks and keys.
@@ -67,14 +69,16 @@ public:
     bool perform(const QStringList &moves) const;
     /// Opens a list with the mouse, presses the keys and takes the row with Return.
     bool choose(const char *comboBox, const QStringList &keys, int expectedRow);
-    /// Opens a list with the mouse and goes from its top to the row of that text, or types the text
-    /// where that is far away. There, the text is of letters and digits.
+    /// Opens a list with the mouse and goes from its top or its end to the row of that text, or
+    /// types the text where both are far away. There, the text is of letters and digits.
     bool choose(const char *comboBox, const QString &text);
     /// Types an IPv4 address into its four boxes, which the model has to show.
     bool typeAddress(const QString &address);
     /// Waits until "select all" and "copy" in the widget clicked last give that text.
     /// \a limit in ms; reached only by what fails
     bool copies(const QString &text, int limit = 20'000) const;
+    /// Like copies(), for a text that matches from its beginning to its end.
+    bool copiesMatch(const QString &pattern) const;
 
     bool hasWindow(const QString &title) const;
     /// Gives a window the keyboard, which nobody does without a window manager.
@@ -93,8 +97,11 @@ private:
     QStringList search(const QString &title = {}) const;
     qsizetype windowCount() const;
     QString difference(const QWidget *twin, const QString &title) const;
+    bool copies(const std::function<bool(const QString &)> &isExpected, const QString &expected,
+                int limit) const;
 
     QTemporaryDir m_home;
     QProcess m_process;
+    QElapsedTimer m_sinceTyping; ///< of a row's text
     std::unique_ptr<MainWindow> m_twin;
 };
