@@ -9,6 +9,8 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -85,8 +87,8 @@ void tst_SimulatedDevices::everyCommand()
 
     // A new player ID comes last: the device does not obey the old one any longer.
     QList<SheetFrame> frames = framesOf(sheet);
-    std::ranges::stable_partition(frames,
-                                  [](const SheetFrame &frame) { return frame.command.id != 11; });
+    std::stable_partition(frames.begin(), frames.end(),
+                          [](const SheetFrame &frame) { return frame.command.id != 11; });
     QByteArray script;
     QStringList expected;
     bool isObeyed = true;

@@ -473,12 +473,9 @@ void tst_TessalySend::noGap()
 {
     PtyPeer peer;
     SenderProgram sender;
-    QElapsedTimer clock;
-    clock.start();
-    QCOMPARE(sender.run(toDeck(peer) + QStringList{u"--gap=0"_s, u"--repeat=200"_s, u"play"_s}), 0);
-    QCOMPARE(peer.received().size(), 600);
-    // With the usual gap it would be ten seconds.
-    QVERIFY(clock.elapsed() < 9'000);
+    // With the usual gap it would be half a minute, which is longer than run() waits.
+    QCOMPARE(sender.run(toDeck(peer) + QStringList{u"--gap=0"_s, u"--repeat=600"_s, u"play"_s}), 0);
+    QCOMPARE(peer.received().size(), 1800);
 }
 
 void tst_TessalySend::waitLines()
@@ -518,7 +515,7 @@ void tst_TessalySend::answer()
 
     PtyPeer peer;
     SenderProgram sender;
-    QVERIFY(sender.start(toDeck(peer) + QStringList{form, u"--wait=1000"_s, u"play"_s}));
+    QVERIFY(sender.start(toDeck(peer) + QStringList{form, u"--wait=2000"_s, u"play"_s}));
     QTRY_COMPARE(peer.received(), bytes("85 02 01"));
     QVERIFY(peer.send(answer));
     QCOMPARE(sender.waitForEnd(), 0);
@@ -550,7 +547,7 @@ void tst_TessalySend::cutAnswer()
 {
     PtyPeer peer;
     SenderProgram sender;
-    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=1000"_s, u"--repeat=2"_s, u"play"_s}));
+    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=2000"_s, u"--repeat=2"_s, u"play"_s}));
     QTRY_COMPARE(peer.received(), bytes("85 02 01"));
     QVERIFY(peer.send("a\xC3"));
     QTRY_COMPARE(peer.received(), bytes("85 02 01 85 02 01"));
@@ -607,7 +604,7 @@ void tst_TessalySend::log()
     PtyPeer peer;
     SenderProgram sender;
     QVERIFY(sender.start(toDeck(peer)
-                         + QStringList{u"--log"_s, path, u"--wait=1000"_s, u"folder"_s, u"200"_s}));
+                         + QStringList{u"--log"_s, path, u"--wait=2000"_s, u"folder"_s, u"200"_s}));
     QTRY_COMPARE(peer.received(), bytes("85 11 48"));
     QVERIFY(peer.send("OK\n"));
     QCOMPARE(sender.waitForEnd(), 0);
@@ -652,11 +649,9 @@ void tst_TessalySend::connectedForEachCommand()
     const QByteArray play = bytes("04 00 00 00 63 6D 64 00 33 32 00 32 35 35 00 32 35 35 00");
     const QByteArray stop = bytes("04 00 00 00 63 6D 64 00 33 34 00 32 35 35 00 32 35 35 00");
     SenderProgram sender;
-    QVERIFY(sender.start(toLite() + QStringList{u"--gap=0"_s, u"--wait=5000"_s, u"--script=-"_s}));
+    QVERIFY(sender.start(toLite() + QStringList{u"--gap=0"_s, u"--wait=60000"_s, u"--script=-"_s}));
     sender.process().write("play\nstop\n");
     sender.process().closeWriteChannel();
-    QElapsedTimer clock;
-    clock.start();
     QTRY_COMPARE(peer.received(), play);
     QCOMPARE(peer.connectionCount(), 1);
     peer.send("one\n");
@@ -665,11 +660,10 @@ void tst_TessalySend::connectedForEachCommand()
     QCOMPARE(peer.connectionCount(), 2);
     peer.send("two\n");
     peer.hangUp();
+    // The program does not wait for a device that has closed the connection.
     QCOMPARE(sender.waitForEnd(), 0);
     QCOMPARE(sender.output(), "one\ntwo\n"_ba);
     QCOMPARE(sender.errors(), QByteArray());
-    // A device that has hung up is not waited for.
-    QVERIFY(clock.elapsed() < 5'000);
 }
 
 void tst_TessalySend::deviceThatKeepsTheConnection()
@@ -708,7 +702,7 @@ void tst_TessalySend::deviceLosesNothingAtTheEnd()
     QElapsedTimer clock;
     clock.start();
     int queued = 0;
-    while (queued < 3 * 500 && clock.elapsed() < 10'000)
+    while (queued < 3 * 500 && clock.elapsed() < 20'000)
         ::ioctl(device, FIONREAD, &queued);
     QCOMPARE(::send(device, "answer", 6, MSG_NOSIGNAL), 6);
     QCOMPARE(sender.waitForEnd(), 0);
@@ -1101,7 +1095,7 @@ void tst_TessalySend::readerGoesAway()
     QVERIFY(::pipe2(ends.data(), O_CLOEXEC) == 0);
     SenderProgram sender;
     sender.process().setChildProcessModifier([ends] { ::dup2(ends[1], STDOUT_FILENO); });
-    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=1000"_s, u"--repeat=2"_s, u"play"_s}));
+    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=2000"_s, u"--repeat=2"_s, u"play"_s}));
     ::close(ends[0]);
     ::close(ends[1]);
     QTRY_COMPARE(peer.received(), bytes("85 02 01"));
@@ -1155,7 +1149,7 @@ void tst_TessalySend::closedStreams()
         for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
             ::close(stream);
     });
-    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=500"_s, u"play"_s}));
+    QVERIFY(sender.start(toDeck(peer) + QStringList{u"--wait=2000"_s, u"play"_s}));
     QTRY_COMPARE(peer.received(), bytes("85 02 01"));
     QVERIFY(peer.send("OK\n"));
     // Nobody can have read the answer.

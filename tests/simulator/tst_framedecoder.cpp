@@ -669,25 +669,25 @@ void tst_FrameDecoder::splitAtEveryByte()
 
     for (const CommandEntry &entry : device.commands) {
         const QByteArray sent = framesOf(device, entry).constLast().bytes;
-        const QString whole = entry.label + ": "_L1 + hexBytesText(sent);
+        const QString expected = entry.label + ": "_L1 + hexBytesText(sent);
         for (qsizetype cut = 1; cut < sent.size(); ++cut) {
             FrameDecoder decoder(device);
             QCOMPARE(outline(decoder.feed(sent.first(cut))), QString());
-            QVERIFY2(decoder.hasBegunFrame(), qPrintable(whole));
+            QVERIFY2(decoder.hasBegunFrame(), qPrintable(expected));
             QCOMPARE(outline(decoder.feed({})), QString());
-            QVERIFY2(decoder.hasBegunFrame(), qPrintable(whole));
-            QCOMPARE(outline(decoder.feed(sent.sliced(cut))), whole);
-            QVERIFY2(!decoder.hasBegunFrame(), qPrintable(whole));
+            QVERIFY2(decoder.hasBegunFrame(), qPrintable(expected));
+            QCOMPARE(outline(decoder.feed(sent.sliced(cut))), expected);
+            QVERIFY2(!decoder.hasBegunFrame(), qPrintable(expected));
         }
 
         FrameDecoder decoder(device);
         const QByteArray beginning = sent.first(sent.size() - 1);
         for (const char byte : beginning)
             QCOMPARE(outline(decoder.feed(QByteArray(1, byte))), QString());
-        QCOMPARE(outline(decoder.feed(sent.last(1))), whole);
+        QCOMPARE(outline(decoder.feed(sent.last(1))), expected);
 
         QCOMPARE(outline(decoder.feed(sent + sent + sent)),
-                 QStringList({whole, whole, whole}).join(u" / "_s));
+                 QStringList({expected, expected, expected}).join(u" / "_s));
     }
 }
 

@@ -268,7 +268,7 @@ private slots:
             "Other computers may reach 192.0.2.7. Add --allow-remote if you want that.");
         row("address below the loopback net", {model, lite, u"--address"_s, u"126.255.255.255"_s},
             "Other computers may reach 126.255.255.255. Add --allow-remote if you want that.");
-        row("address behind the loopback net", {model, lite, u"--address"_s, u"128.0.0.1"_s},
+        row("address above the loopback net", {model, lite, u"--address"_s, u"128.0.0.1"_s},
             "Other computers may reach 128.0.0.1. Add --allow-remote if you want that.");
         row("link without a path", {model, tempoDeck, u"--link"_s, QString()},
             "--link needs a path.");
@@ -289,8 +289,8 @@ private slots:
             QCOMPARE(options.text, text);
     }
 
-    // The addresses behind the first one must stay on the computer, too.
-    void addressesBehindTheLoopbackNet()
+    // The addresses after the first one must stay on the computer, too.
+    void addressesAboveTheLoopbackNet()
     {
         const SimulatorOptions options = parsed({u"--all"_s, u"--address"_s, u"127.255.255.255"_s});
         QCOMPARE(options.action, Action::Fail);

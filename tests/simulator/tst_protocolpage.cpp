@@ -110,7 +110,7 @@ void tst_ProtocolPage::committedPage_data()
 
     QTest::newRow("in London") << u"UTC0"_s;
     QTest::newRow("a day ahead, with daylight saving time") << u"AAA-13BBB-14,M1.1.0,M12.1.0"_s;
-    QTest::newRow("behind") << u"CCC11"_s;
+    QTest::newRow("hours behind") << u"CCC11"_s;
 }
 
 void tst_ProtocolPage::committedPage()

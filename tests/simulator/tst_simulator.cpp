@@ -37,6 +37,9 @@ const QString lite = u"Sonet A Lite (TCP/IP)"_s;
 
 constexpr int longWait = 120'000; // in ms; reached only by what fails
 
+/// What a busy machine may add to a second or three.
+constexpr int longestDelay = 15'000; // in ms
+
 /// Three seconds, as coarse as Qt's timers are.
 constexpr int shortestOutage = 2'850; // in ms
 
@@ -249,7 +252,7 @@ private slots:
     }
 
     /// The lines of 1500 frames are more than a pipe holds, and nobody reads them meanwhile.
-    void readerThatStandsStill()
+    void blockedReader()
     {
         SimulatorProgram simulator;
         QVERIFY(simulator.start(playing(tempoDeck)));
@@ -407,7 +410,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"port"_s);
-        // Left behind by a run that was killed.
+        // From a run that was killed.
         QVERIFY(QFile::link(u"/dev/pts/999999"_s, path));
 
         SimulatorProgram simulator;
@@ -580,7 +583,7 @@ private slots:
                 "obeyed)"_s,
             }));
         QTRY_COMPARE(console.received(), "OK Play\r\nOK Change ID 7\r\nOK Stop\r\n"_ba);
-        // Nothing comes behind it: the next answer follows at once.
+        // Nothing follows it: the next answer follows at once.
         QVERIFY(console.send(bytes("87 02 01")));
         QTRY_COMPARE(console.received(), "OK Play\r\nOK Change ID 7\r\nOK Stop\r\nOK Play\r\n"_ba);
     }
@@ -596,7 +599,7 @@ private slots:
         const QByteArray frame = bytes("80 2C 1A 03 07 0E 05 09");
         for (const char byte : frame) {
             QVERIFY(console->send(QByteArray(1, byte)));
-            QTest::qWait(150); // so that each byte arrives alone; the device waits for a second
+            QTest::qWait(50); // so that each byte arrives alone; the device waits for a second
         }
         QTRY_COMPARE(simulator.frames(),
                      QStringList{model
@@ -638,7 +641,7 @@ private slots:
         QVERIFY(console->send(bytes("80 0C 0E")));
         QTRY_COMPARE(simulator.frames(), QStringList{model + " | no ID | 80 0C 0E | no frame"_L1});
         QVERIFY2(silence.elapsed() >= 900, qPrintable(QString::number(silence.elapsed())));
-        QVERIFY2(silence.elapsed() < 4'000, qPrintable(QString::number(silence.elapsed())));
+        QVERIFY2(silence.elapsed() < longestDelay, qPrintable(QString::number(silence.elapsed())));
         QVERIFY(console->send(bytes("80 02 01")));
         QTRY_COMPARE(console->received(), "OK Play\r\n"_ba);
     }
@@ -780,7 +783,7 @@ private slots:
             << lite << bytes("04 000000 636D6400 333200 32353500 32353500");
     }
 
-    // Tools such as netcat close their side behind the command, and read on.
+    // Tools such as netcat close their side after the command, and read on.
     void closedSide()
     {
         QFETCH(const QString, model);
@@ -914,7 +917,7 @@ private slots:
         QCOMPARE(entriesOf(folder.path()), QStringList());
     }
 
-    void nothingBehindHangUp_data()
+    void nothingAfterHangUp_data()
     {
         QTest::addColumn<QString>("model");
 
@@ -922,7 +925,7 @@ private slots:
         QTest::newRow("TCP/IP") << vistarShowTcp;
     }
 
-    void nothingBehindHangUp()
+    void nothingAfterHangUp()
     {
         QFETCH(const QString, model);
 
@@ -967,7 +970,7 @@ private slots:
                 longWait));
             QVERIFY2(sinceStart.elapsed() >= shortestOutage,
                      qPrintable(QString::number(sinceStart.elapsed())));
-            QVERIFY2(sinceStart.elapsed() < 8'000,
+            QVERIFY2(sinceStart.elapsed() < longestDelay,
                      qPrintable(QString::number(sinceStart.elapsed())));
             QVERIFY(console->send(bytes("80 02 01")));
             QTRY_COMPARE(console->received(), "OK Play\r\n"_ba);
@@ -1004,7 +1007,8 @@ private slots:
             longWait));
         QVERIFY2(sinceStart.elapsed() >= shortestOutage,
                  qPrintable(QString::number(sinceStart.elapsed())));
-        QVERIFY2(sinceStart.elapsed() < 8'000, qPrintable(QString::number(sinceStart.elapsed())));
+        QVERIFY2(sinceStart.elapsed() < longestDelay,
+                 qPrintable(QString::number(sinceStart.elapsed())));
         QTRY_VERIFY(console.received().startsWith("OK Play\r\n"));
         QTRY_VERIFY(!simulator.frames().isEmpty());
         QStringList frames = simulator.frames();
