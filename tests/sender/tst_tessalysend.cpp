@@ -176,6 +176,7 @@ private slots:
     void cutAnswer();
     void noAnswer();
     void earlierBytesAreNoAnswer();
+    void greeting();
     void answersOfSeveralCommands();
     void log();
     void logThatCannotBeOpened();
@@ -581,6 +582,21 @@ void tst_TessalySend::earlierBytesAreNoAnswer()
     ::close(other);
     QCOMPARE(status, 1);
     QCOMPARE(sender.output(), QByteArray());
+}
+
+void tst_TessalySend::greeting()
+{
+    TcpPeer peer(videoPort);
+    SenderProgram sender;
+    QVERIFY(sender.start(toVideo() + QStringList{u"--wait=200"_s, u"--script=-"_s}));
+    sender.process().write("wait 2000\nplay\n");
+    sender.process().closeWriteChannel();
+    QTRY_COMPARE(peer.connectionCount(), 1);
+    peer.send("Welcome\n");
+    // What comes before the first command is no answer to it.
+    QCOMPARE(sender.waitForEnd(), 1);
+    QCOMPARE(sender.output(), QByteArray());
+    QTRY_VERIFY(!peer.received().isEmpty());
 }
 
 void tst_TessalySend::answersOfSeveralCommands()

@@ -453,10 +453,10 @@ private slots:
         SimulatorProgram all;
         QVERIFY2(all.start({u"--all"_s, u"--address"_s, addressText(), u"--link"_s, links}),
                  all.errorOutput());
-        SimulatorProgram two;
-        QVERIFY2(
-            two.start({u"--model"_s, tempoDeck, u"--model"_s, u"Ampra One"_s, u"--link"_s, kept}),
-            two.errorOutput());
+        SimulatorProgram three;
+        QVERIFY2(three.start({u"--model"_s, tempoDeck, u"--model"_s, u"Ampra One"_s, u"--model"_s,
+                              tempoDeck, u"--link"_s, kept}),
+                 three.errorOutput());
         SimulatorProgram one;
         QVERIFY2(one.start({u"--model"_s, tempoDeck, u"--link"_s, single}), one.errorOutput());
 
@@ -470,8 +470,9 @@ private slots:
         for (const char *name :
              {"Ampra-One", "HV1xx-Serial-legacy", "Pico-Deck-Gen-2-3", "Vistar-Show-SV500-Serial"})
             QVERIFY2(paths.contains(links + u'/' + QLatin1String(name)), name);
-        QCOMPARE(entriesOf(kept), QStringList({u"Ampra-One"_s, u"Tempo-Deck"_s}));
-        for (SimulatorProgram *simulator : {&all, &two, &one}) {
+        QCOMPARE(entriesOf(kept),
+                 QStringList({u"Ampra-One"_s, u"Tempo-Deck"_s, u"Tempo-Deck-2"_s}));
+        for (SimulatorProgram *simulator : {&all, &three, &one}) {
             QVERIFY(simulator->stop(signal));
             QCOMPARE(simulator->exitCode(), 0);
             QCOMPARE(simulator->errorOutput(), ""_ba);
