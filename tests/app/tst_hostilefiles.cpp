@@ -37,7 +37,7 @@ constexpr qint64 gibibyte = 1 << 30;
 /// For a window's coming and for its going, in milliseconds; many times what a busy machine takes.
 constexpr int timeLimit = 10'000;
 /// What a window may take at its highest, beyond what was there before it.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSALY_SANITIZED
 constexpr qint64 memoryLimit = 640 * mebibyte; // what was given back is kept for a while
 #else
 constexpr qint64 memoryLimit = 48 * mebibyte;

@@ -23,7 +23,7 @@ namespace {
 constexpr int defaultCommandCount = 1000; // about two rounds over all models
 constexpr int highestCommandCount = 100'000'000;
 constexpr int timeLimit = 20'000; // in ms; reached only by what fails
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSALY_SANITIZED
 // The sanitizer keeps what was freed, and books on all of it. It looks for leaks at the end.
 constexpr int growthLimit = std::numeric_limits<int>::max();
 #else

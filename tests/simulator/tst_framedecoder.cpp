@@ -16,7 +16,7 @@
 #include <malloc.h>
 #include <time.h>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSALY_SANITIZED
 // GCC comes without the header that declares it.
 extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -231,7 +231,7 @@ QByteArray junkAlphabet(const DeviceModel &model)
 
 qsizetype allocatedBytes()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSALY_SANITIZED
     return static_cast<qsizetype>(__sanitizer_get_current_allocated_bytes());
 #else
     const struct mallinfo2 info = ::mallinfo2();

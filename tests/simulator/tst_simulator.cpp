@@ -44,7 +44,7 @@ constexpr int longestDelay = 15'000; // in ms
 constexpr int shortestOutage = 2'850; // in ms
 
 // Of the simulator's memory, in kB.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSALY_SANITIZED
 constexpr int highestGrowth = 128 * 1'024; // with room for what surrounds each allocation
 #else
 constexpr int highestGrowth = 64 * 1'024;
