@@ -142,11 +142,10 @@ void tst_Catalogue::notOffered()
 
 void tst_Catalogue::modelsByName()
 {
-    for (qsizetype row = 0; row < m_catalogue.size(); ++row) {
-        const DeviceModel *const known = &m_catalogue.at(row);
-        QCOMPARE(findModel(m_catalogue, known->name), known);
-        QCOMPARE(findModel(m_catalogue, known->name.toUpper()), known);
-        QVERIFY(!findModel(m_catalogue, known->name.chopped(1)));
+    for (const DeviceModel &known : std::as_const(m_catalogue)) {
+        QCOMPARE(findModel(m_catalogue, known.name), &known);
+        QCOMPARE(findModel(m_catalogue, known.name.toUpper()), &known);
+        QVERIFY(!findModel(m_catalogue, known.name.chopped(1)));
     }
     const DeviceCatalogue empty;
     QVERIFY(!findModel(empty, u"Ampra One"_s));
@@ -226,12 +225,12 @@ void tst_Catalogue::commandEntryCopiesItsBytes()
     char high[] = {0x0A, 0x00};
     const CommandEntry entry(u"Volume"_s, 9, 3, QByteArray::fromRawData(low, sizeof low),
                              QByteArray::fromRawData(high, sizeof high));
-    const CommandEntry copy = entry;
+    const QList<CommandEntry> entryAndCopy{entry, entry};
     for (char &byte : low)
         byte = 0x55;
     for (char &byte : high)
         byte = 0x66;
-    QCOMPARE(described({entry, copy}), QStringList(2, u"Volume / 9 / 3 / 01 02 03 / 0A 00"_s));
+    QCOMPARE(described(entryAndCopy), QStringList(2, u"Volume / 9 / 3 / 01 02 03 / 0A 00"_s));
 }
 
 TESSALY_TEST(tst_Catalogue)

@@ -142,7 +142,8 @@ private slots:
         const QJsonObject model = QJsonDocument::fromJson(text.toUtf8()).object();
         QCOMPARE(model.value(u"name"_s).toString(), sheet.name);
         QStringList commands;
-        for (const auto &command : model.value(u"commands"_s).toArray()) {
+        const QJsonArray array = model.value(u"commands"_s).toArray();
+        for (const auto &command : array) {
             commands.append(command.toObject().value(u"list"_s).toString() + u'/'
                             + command.toObject().value(u"label"_s).toString());
         }

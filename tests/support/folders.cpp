@@ -13,7 +13,7 @@ namespace {
 /// The environment names it; else it is the first folder above the programs that has the tests.
 QString sourceFolder()
 {
-    const QString named = qEnvironmentVariable("TESSALY_SOURCE_FOLDER");
+    QString named = qEnvironmentVariable("TESSALY_SOURCE_FOLDER");
     if (!named.isEmpty())
         return named;
     QDir folder(QCoreApplication::applicationDirPath());

@@ -108,7 +108,7 @@ QString SheetReader::take(const QString &key)
 
 QString SheetReader::takeOneOf(const QString &key, const QStringList &values)
 {
-    const QString value = take(key);
+    QString value = take(key);
     if (!values.contains(value))
         fail(u"\"%1\" is none of: %2"_s.arg(value, values.join(u", "_s)));
     return value;
