@@ -9,11 +9,12 @@
 #include <chrono>
 
 /// Measures how much of its time the event loop has for the window's user: it ticks, and a tick
-/// that comes late tells how long nothing else was answered.
+/// that comes late tells how long nothing else was answered. Time in which other programs had the
+/// processor does not count, so that a busy machine changes no result.
 class AttentionMeter
 {
 public:
-    /// What nobody notices, and a loaded computer may need to wake a program.
+    /// What nobody notices.
     static constexpr std::chrono::milliseconds unnoticed{50};
 
     AttentionMeter();
@@ -26,9 +27,12 @@ public:
 
 private:
     void tick();
+    /// Since the start, without the time in which this thread had to wait for the processor.
+    std::chrono::milliseconds elapsed() const;
 
     QTimer m_timer;
     QElapsedTimer m_time;
+    std::chrono::milliseconds m_waitedBefore{};
     std::chrono::milliseconds m_lastTick{};
     std::chrono::milliseconds m_longestAbsence{};
     std::chrono::milliseconds m_absence{};

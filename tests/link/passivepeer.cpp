@@ -9,9 +9,11 @@
 #include <QTest>
 
 #include <array>
+#include <tuple>
 
 #include <linux/filter.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -25,7 +27,7 @@ PassivePeer::PassivePeer(quint16 port)
 
     const int reuse = 1;
     ::setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &reuse, sizeof reuse);
-    const int room = 1; // the system takes its least
+    const int room = 1; // the system takes its minimum
     ::setsockopt(m_listener, SOL_SOCKET, SO_RCVBUF, &room, sizeof room);
     if (::bind(m_listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
         || ::listen(m_listener, 1) != 0) {
@@ -35,9 +37,31 @@ PassivePeer::PassivePeer(quint16 port)
 
 PassivePeer::~PassivePeer()
 {
+    for (const int fd : std::as_const(m_waiting))
+        ::close(fd);
     if (m_connection >= 0)
         ::close(m_connection);
     ::close(m_listener);
+}
+
+void PassivePeer::stopAnswering()
+{
+    sockaddr_storage address{};
+    socklen_t size = sizeof address;
+    auto *generic = reinterpret_cast<sockaddr *>(&address);
+    ::getsockname(m_listener, generic, &size);
+    // The system drops an attempt for which the listener's queue has no room. The queue is full
+    // when an attempt stays unanswered for far longer than the loopback takes.
+    for (int attempt = 0; attempt < 16; ++attempt) {
+        const int fd = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+        m_waiting.append(fd);
+        // Nothing to learn from the result: the attempt is under way either way.
+        std::ignore = ::connect(fd, generic, size);
+        pollfd handle{.fd = fd, .events = POLLOUT, .revents = 0};
+        if (::poll(&handle, 1, 100) == 0)
+            return;
+    }
+    qFatal("the listener's queue does not fill");
 }
 
 bool PassivePeer::accept()

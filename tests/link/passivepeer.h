@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 /// A network device on TcpPeer::address() that does nothing by itself: it takes one connection and
 /// does not read what is sent to it, unless it is told to.
@@ -14,7 +15,10 @@ public:
     ~PassivePeer();
     Q_DISABLE_COPY_MOVE(PassivePeer)
 
-    /// Takes the connection that waits, with as little room for unread bytes as there can be.
+    /// From here on, every further attempt to connect stays unanswered, as that to a device which
+    /// is switched off.
+    void stopAnswering();
+    /// Takes the connection that waits, with the minimum of room for unread bytes.
     /// \return false when none comes within five seconds
     bool accept();
     void send(const QByteArray &bytes) const;
@@ -30,4 +34,5 @@ public:
 private:
     int m_listener = -1;
     int m_connection = -1;
+    QList<int> m_waiting; ///< connections that nobody takes
 };

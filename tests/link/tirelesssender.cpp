@@ -11,10 +11,9 @@
 
 using namespace std::chrono_literals;
 
-TirelessSender::TirelessSender(int handle, QByteArray bytes, int byteRate)
+TirelessSender::TirelessSender(int handle, QByteArray bytes)
     : m_handle(handle)
     , m_bytes(std::move(bytes))
-    , m_byteRate(byteRate)
     , m_thread(&TirelessSender::send, this)
 {
 }
@@ -27,21 +26,12 @@ TirelessSender::~TirelessSender()
 
 void TirelessSender::send()
 {
-    const auto start = std::chrono::steady_clock::now();
     while (!isDone() && !m_isBrokenOff) {
-        qsizetype due = m_bytes.size();
-        if (m_byteRate > 0) {
-            const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
-                std::chrono::steady_clock::now() - start);
-            due = std::min(due, qsizetype(m_byteRate * elapsed.count() / 1000));
-        }
         pollfd handle{.fd = m_handle, .events = POLLOUT, .revents = 0};
-        if (due <= m_sentCount || ::poll(&handle, 1, 10) == 0) {
-            std::this_thread::sleep_for(1ms);
+        if (::poll(&handle, 1, 10) == 0)
             continue;
-        }
         const ssize_t count = ::write(m_handle, m_bytes.constData() + m_sentCount,
-                                      static_cast<size_t>(due - m_sentCount));
+                                      static_cast<size_t>(m_bytes.size() - m_sentCount));
         if (count > 0)
             m_sentCount += count;
     }

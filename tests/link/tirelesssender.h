@@ -13,9 +13,8 @@
 class TirelessSender
 {
 public:
-    /// \a handle    of a PtyPeer or a TcpPeer that outlives the sender
-    /// \a byteRate  bytes per second; 0 sends as fast as they are taken
-    TirelessSender(int handle, QByteArray bytes, int byteRate = 0);
+    /// \a handle of a PtyPeer or a TcpPeer that outlives the sender
+    TirelessSender(int handle, QByteArray bytes);
     /// Breaks off what is not sent yet.
     ~TirelessSender();
     Q_DISABLE_COPY_MOVE(TirelessSender)
@@ -28,7 +27,6 @@ private:
 
     const int m_handle;
     const QByteArray m_bytes;
-    const int m_byteRate;
     std::atomic<qsizetype> m_sentCount = 0;
     std::atomic<bool> m_isBrokenOff = false;
     std::thread m_thread;

@@ -4,6 +4,7 @@
 #include "app/applicationobjects.h"
 #include "contactlog.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/examplemodels.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
@@ -32,9 +33,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr quint16 tcpModelPort = 65079;
-constexpr quint16 onDemandPort = 1234;
-
 /// A folder with one file in it, and whether anybody has opened that.
 class WatchedFolder
 {
@@ -43,7 +41,7 @@ public:
         : m_watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
     {
         QFile file(path());
-        // A picture and a style sheet are asked for by the same name.
+        // An image and a style sheet are asked for by the same name.
         if (!file.open(QIODevice::WriteOnly) || file.write("b { color: red }") < 0)
             qFatal("no file");
         file.close();
@@ -180,7 +178,7 @@ void tst_Isolation::namesInReceivedTextAreNotFollowed()
 
     PtyPeer peer;
     ConsoleWindow console;
-    console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
+    console.selectModel(console.rowOfModel(serialModel));
     console.connectSerial(peer);
     auto *editor = console.find<QTextEdit>("textEdit_Data");
     takeContacts();
@@ -229,19 +227,19 @@ void tst_Isolation::onlyTheChosenDeviceIsContacted()
 {
     takeContacts();
     PtyPeer serialPeer;
-    TcpPeer tcpPeer(tcpModelPort);
-    TcpPeer onDemandPeer(onDemandPort);
+    TcpPeer tcpPeer(portOf(tcpModel));
+    TcpPeer onDemandPeer(portOf(onDemandModel));
     const QString address = TcpPeer::address().toString();
     ConsoleWindow console;
     console.setAddress(address);
-    for (int row = 0; row < deviceCatalogue.size(); ++row) {
-        console.selectModel(row);
-        if (!deviceCatalogue.at(row).connectsOnDemand())
+    for (const ModelSheet &sheet : modelSheets()) {
+        console.selectModel(console.rowOfModel(sheet.name));
+        if (!sheet.connectsOnDemand())
             console.window.on_pushButton_Play_clicked();
     }
     QCOMPARE(takeContacts(), QStringList());
 
-    console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
+    console.selectModel(console.rowOfModel(serialModel));
     console.connectSerial(serialPeer);
     console.click("pushButton_Play");
     QTRY_COMPARE(serialPeer.received().toHex(), "800201"_ba);
@@ -250,9 +248,9 @@ void tst_Isolation::onlyTheChosenDeviceIsContacted()
     console.click("pushButton_Disconnect");
     QCOMPARE(takeContacts(), QStringList());
 
-    console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (TCP/IP)"_s));
+    console.selectModel(console.rowOfModel(tcpModel));
     QVERIFY(console.connectTcp());
-    QCOMPARE(takeContacts(), QStringList(address + u":65079"_s));
+    QCOMPARE(takeContacts(), QStringList(u"%1:%2"_s.arg(address).arg(portOf(tcpModel))));
     console.click("pushButton_Play");
     QTRY_COMPARE(tcpPeer.received().toHex(), "800201"_ba);
     tcpPeer.send("OK"_ba);
@@ -260,12 +258,12 @@ void tst_Isolation::onlyTheChosenDeviceIsContacted()
     console.click("pushButton_Disconnect");
     QCOMPARE(takeContacts(), QStringList());
 
-    console.selectModel(console.rowOfModel(u"Sonet A Lite (TCP/IP)"_s));
+    console.selectModel(console.rowOfModel(onDemandModel));
     QCOMPARE(takeContacts(), QStringList());
     for (int i = 1; i <= 3; ++i) {
         console.click("pushButton_Play");
         QTRY_COMPARE(onDemandPeer.received().size(), qsizetype(19) * i);
-        QCOMPARE(takeContacts(), QStringList(address + u":1234"_s));
+        QCOMPARE(takeContacts(), QStringList(u"%1:%2"_s.arg(address).arg(portOf(onDemandModel))));
         onDemandPeer.hangUp();
         QTRY_VERIFY(!tcpSocket->isOpen());
     }

@@ -5,8 +5,10 @@
 #include "attentionmeter.h"
 #include "passivepeer.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/examplemodels.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/settingsfile.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
 
@@ -31,13 +33,6 @@ using namespace std::chrono_literals;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const QString serialModel = u"Vistar Show - SV500 (Serial)"_s;
-const QString tcpModel = u"Vistar Show - SV500 (TCP/IP)"_s;
-const QString extendedSerialModel = u"Sonet A (Serial)"_s;
-const QString onDemandModel = u"Sonet A Lite (TCP/IP)"_s;
-constexpr quint16 tcpModelPort = 65079;
-constexpr quint16 onDemandPort = 1234;
 
 const QByteArray play = "\x80\x02\x01"_ba;
 const QByteArray onDemandPlay = QByteArray::fromHex("04000000636d640033320032353500323535"
@@ -89,10 +84,20 @@ qint64 usedMemory()
     return qint64(info.uordblks) + qint64(info.hblkhd);
 }
 
-int openFileCount()
+constexpr int rounds = 100;
+
+/// The files that this process has open. What stays open in each round is a leak; Qt may open some
+/// for itself, once.
+class OpenFiles
 {
-    return int(QDir(u"/proc/self/fd"_s).entryList(QDir::NoFilter).size());
-}
+public:
+    bool haveGrown() const { return count() - m_before >= rounds / 10; }
+
+private:
+    static qsizetype count() { return QDir(u"/proc/self/fd"_s).entryList(QDir::NoFilter).size(); }
+
+    const qsizetype m_before = count();
+};
 
 qint64 processorMilliseconds()
 {
@@ -107,7 +112,7 @@ class tst_LinkFaults : public QObject
 
 private slots:
     void serialDeviceVanishesInAReceivedText();
-    void networkDeviceHangsUpBehindAReceivedText();
+    void networkDeviceHangsUpAfterAReceivedText();
     void networkDeviceResetsInAReceivedText();
     void serialDeviceVanishesDuringAWrite();
     void networkDeviceHangsUpDuringAWrite();
@@ -121,12 +126,12 @@ private slots:
     void networkDeviceNeverReads();
     void serialDeviceReadsAtLast();
     void networkDeviceReadsAtLast();
-    void hundredSerialConnects();
-    void hundredNetworkConnects();
-    void hundredHangUps();
-    void hundredOnDemandCommands();
-    void hundredRefusedCommands();
-    void hundredVanishedDevices();
+    void manySerialConnects();
+    void manyNetworkConnects();
+    void manyHangUps();
+    void manyOnDemandCommands();
+    void manyRefusedCommands();
+    void manyVanishedDevices();
     void configurationChangesTheModel_data();
     void configurationChangesTheModel();
 };
@@ -157,13 +162,13 @@ void tst_LinkFaults::serialDeviceVanishesInAReceivedText()
     console.expectQuiet();
 }
 
-void tst_LinkFaults::networkDeviceHangsUpBehindAReceivedText()
+void tst_LinkFaults::networkDeviceHangsUpAfterAReceivedText()
 {
-    TcpPeer peer(tcpModelPort);
+    TcpPeer peer(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QTRY_VERIFY(peer.isConnected());
-    // A hang-up stands behind all that was sent: none of it is lost.
+    // A hang-up comes after all that was sent: none of it is lost.
     const QByteArray line = "0123456789:;=?@\n"_ba;
     peer.send(line.repeated(10'000));
     peer.hangUp();
@@ -177,7 +182,7 @@ void tst_LinkFaults::networkDeviceHangsUpBehindAReceivedText()
 
 void tst_LinkFaults::networkDeviceResetsInAReceivedText()
 {
-    PassivePeer peer(tcpModelPort);
+    PassivePeer peer(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(peer.accept());
@@ -222,7 +227,7 @@ void tst_LinkFaults::serialDeviceVanishesDuringAWrite()
 
 void tst_LinkFaults::networkDeviceHangsUpDuringAWrite()
 {
-    auto deaf = std::make_unique<PassivePeer>(tcpModelPort);
+    auto deaf = std::make_unique<PassivePeer>(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(deaf->accept());
@@ -233,7 +238,7 @@ void tst_LinkFaults::networkDeviceHangsUpDuringAWrite()
     QTRY_VERIFY(console.looksDisconnected());
     QVERIFY(!anyLinkIsOpen());
 
-    const TcpPeer next(tcpModelPort);
+    const TcpPeer next(portOf(tcpModel));
     QVERIFY(console.connectTcp());
     console.window.on_pushButton_Play_clicked();
     QTRY_COMPARE(next.received(), play);
@@ -242,7 +247,7 @@ void tst_LinkFaults::networkDeviceHangsUpDuringAWrite()
 
 void tst_LinkFaults::networkDeviceResetsDuringAWrite()
 {
-    auto deaf = std::make_unique<PassivePeer>(tcpModelPort);
+    auto deaf = std::make_unique<PassivePeer>(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(deaf->accept());
@@ -256,7 +261,7 @@ void tst_LinkFaults::networkDeviceResetsDuringAWrite()
     QCOMPARE(tcpSocket->bytesToWrite(), 0);
     deaf.reset();
 
-    const TcpPeer next(tcpModelPort);
+    const TcpPeer next(portOf(tcpModel));
     QVERIFY(console.connectTcp());
     console.window.on_pushButton_Play_clicked();
     QTRY_COMPARE(next.received(), play);
@@ -265,7 +270,7 @@ void tst_LinkFaults::networkDeviceResetsDuringAWrite()
 
 void tst_LinkFaults::networkDeviceStopsSendingDuringAWrite()
 {
-    PassivePeer peer(tcpModelPort);
+    PassivePeer peer(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(peer.accept());
@@ -290,7 +295,7 @@ void tst_LinkFaults::networkDeviceStopsSendingDuringAWrite()
 
 void tst_LinkFaults::networkDeviceResets()
 {
-    PassivePeer peer(tcpModelPort);
+    PassivePeer peer(portOf(tcpModel));
     Console console(tcpModel);
     for (int i = 0; i < 2; ++i) {
         QVERIFY(console.connectTcp());
@@ -305,7 +310,7 @@ void tst_LinkFaults::networkDeviceResets()
 
 void tst_LinkFaults::onDemandDeviceResets()
 {
-    PassivePeer peer(onDemandPort);
+    PassivePeer peer(portOf(onDemandModel));
     Console console(onDemandModel);
     for (int i = 0; i < 2; ++i) {
         console.click("pushButton_Play");
@@ -322,7 +327,7 @@ void tst_LinkFaults::onDemandDeviceResets()
 
 void tst_LinkFaults::halfOpenConnection()
 {
-    PassivePeer peer(tcpModelPort);
+    PassivePeer peer(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(peer.accept());
@@ -341,7 +346,7 @@ void tst_LinkFaults::halfOpenConnection()
     QElapsedTimer time;
     time.start();
     console.click("pushButton_Disconnect");
-    QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
     QVERIFY(console.looksDisconnected());
     QVERIFY(!anyLinkIsOpen());
 
@@ -356,7 +361,7 @@ void tst_LinkFaults::halfOpenConnection()
 
 void tst_LinkFaults::halfOpenConnectionIsEndedByTheSystem()
 {
-    PassivePeer peer(tcpModelPort);
+    PassivePeer peer(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(peer.accept());
@@ -410,7 +415,7 @@ void sendManyCommands(Console &console)
 /// Leaves the system so little room for what the device has not read that commands have to wait.
 void keepSendBufferSmall()
 {
-    const int room = 1; // the system takes its least
+    const int room = 1; // the system takes its minimum
     QCOMPARE(
         ::setsockopt(int(tcpSocket->socketDescriptor()), SOL_SOCKET, SO_SNDBUF, &room, sizeof room),
         0);
@@ -428,7 +433,7 @@ void tst_LinkFaults::serialDeviceNeverReads()
     QElapsedTimer time;
     time.start();
     console.click("pushButton_Disconnect");
-    QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
     QVERIFY(console.looksDisconnected());
 
     // The next device gets nothing of what was meant for this one.
@@ -441,7 +446,7 @@ void tst_LinkFaults::serialDeviceNeverReads()
 
 void tst_LinkFaults::networkDeviceNeverReads()
 {
-    PassivePeer deaf(tcpModelPort);
+    PassivePeer deaf(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(deaf.accept());
@@ -451,7 +456,7 @@ void tst_LinkFaults::networkDeviceNeverReads()
     QElapsedTimer time;
     time.start();
     console.click("pushButton_Disconnect");
-    QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
     QVERIFY(console.looksDisconnected());
     QCOMPARE(tcpSocket->bytesToWrite(), 0);
     console.expectQuiet();
@@ -469,7 +474,7 @@ void tst_LinkFaults::serialDeviceReadsAtLast()
 
 void tst_LinkFaults::networkDeviceReadsAtLast()
 {
-    PassivePeer slow(tcpModelPort);
+    PassivePeer slow(portOf(tcpModel));
     Console console(tcpModel);
     QVERIFY(console.connectTcp());
     QVERIFY(slow.accept());
@@ -480,14 +485,14 @@ void tst_LinkFaults::networkDeviceReadsAtLast()
     QVERIFY(received == play.repeated(manyCommands));
 }
 
-void tst_LinkFaults::hundredSerialConnects()
+void tst_LinkFaults::manySerialConnects()
 {
     PtyPeer peer;
     Console console(serialModel);
     console.connectSerial(peer);
     console.click("pushButton_Disconnect");
-    const int files = openFileCount();
-    for (int i = 0; i < 100; ++i) {
+    const OpenFiles files;
+    for (int i = 0; i < rounds; ++i) {
         console.click("pushButton_Connect");
         QVERIFY(console.looksConnected());
         console.click("pushButton_Play");
@@ -497,20 +502,20 @@ void tst_LinkFaults::hundredSerialConnects()
         QVERIFY(console.looksDisconnected());
         QVERIFY(!anyLinkIsOpen());
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
+    // The port is free for others.
+    QSerialPort other;
+    other.setPortName(peer.portName());
+    QVERIFY(other.open(QIODevice::ReadWrite));
     console.expectQuiet();
 }
 
-void tst_LinkFaults::hundredNetworkConnects()
+void tst_LinkFaults::manyNetworkConnects()
 {
-    TcpPeer peer(tcpModelPort);
+    TcpPeer peer(portOf(tcpModel));
     Console console(tcpModel);
-    QVERIFY(console.connectTcp());
-    QTRY_VERIFY(peer.isConnected());
-    console.click("pushButton_Disconnect");
-    QTRY_VERIFY(!peer.isConnected());
-    const int files = openFileCount();
-    for (int i = 2; i <= 101; ++i) {
+    const OpenFiles files;
+    for (int i = 1; i <= rounds; ++i) {
         QVERIFY(console.connectTcp());
         console.click("pushButton_Play");
         QTRY_COMPARE(peer.received(), play);
@@ -520,78 +525,70 @@ void tst_LinkFaults::hundredNetworkConnects()
         QVERIFY(console.looksDisconnected());
         QTRY_VERIFY(!peer.isConnected());
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
     console.expectQuiet();
 }
 
-void tst_LinkFaults::hundredHangUps()
+void tst_LinkFaults::manyHangUps()
 {
-    TcpPeer peer(tcpModelPort);
+    TcpPeer peer(portOf(tcpModel));
     Console console(tcpModel);
-    int files = 0;
-    for (int i = 0; i <= 100; ++i) {
+    const OpenFiles files;
+    for (int i = 0; i < rounds; ++i) {
         QVERIFY(console.connectTcp());
         QTRY_VERIFY(peer.isConnected());
         peer.hangUp();
         QTRY_VERIFY(console.looksDisconnected());
         QVERIFY(!anyLinkIsOpen());
         QTRY_VERIFY(!peer.isConnected());
-        if (i == 0)
-            files = openFileCount();
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
     console.expectQuiet();
 }
 
-void tst_LinkFaults::hundredOnDemandCommands()
+void tst_LinkFaults::manyOnDemandCommands()
 {
-    TcpPeer peer(onDemandPort);
+    TcpPeer peer(portOf(onDemandModel));
     Console console(onDemandModel);
-    int files = 0;
-    for (int i = 0; i <= 100; ++i) {
+    const OpenFiles files;
+    for (int i = 1; i <= rounds; ++i) {
         console.click("pushButton_Play");
         QTRY_COMPARE(peer.received().toHex(), onDemandPlay.toHex());
         peer.takeReceived();
-        QCOMPARE(peer.connectionCount(), i + 1);
+        QCOMPARE(peer.connectionCount(), i);
         peer.hangUp();
         QTRY_VERIFY(!anyLinkIsOpen() && !peer.isConnected());
-        if (i == 0)
-            files = openFileCount();
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
     console.expectQuiet();
 }
 
-void tst_LinkFaults::hundredRefusedCommands()
+void tst_LinkFaults::manyRefusedCommands()
 {
     Console console(onDemandModel);
-    int files = 0;
-    for (int i = 0; i <= 100; ++i) {
+    const OpenFiles files;
+    for (int i = 0; i < rounds; ++i) {
         console.click("pushButton_Play");
         QVERIFY(anyLinkIsOpen());
         QTRY_VERIFY(!anyLinkIsOpen());
-        if (i == 0)
-            files = openFileCount();
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
     console.expectQuiet();
 }
 
-void tst_LinkFaults::hundredVanishedDevices()
+void tst_LinkFaults::manyVanishedDevices()
 {
     Console console(serialModel);
-    int files = 0;
-    for (int i = 0; i <= 100; ++i) {
+    const OpenFiles files;
+    for (int i = 0; i < rounds; ++i) {
         {
             // Each device is another one, and nobody presses Disconnect.
             const PtyPeer peer;
             QVERIFY(console.window.openSerialPort(9600, peer.portName()));
         }
         QTRY_VERIFY(!anyLinkIsOpen());
-        if (i == 0)
-            files = openFileCount();
     }
-    QCOMPARE(openFileCount(), files);
+    QVERIFY(!files.haveGrown());
     console.expectQuiet();
 }
 
@@ -634,8 +631,8 @@ void tst_LinkFaults::configurationChangesTheModel()
     QFETCH(const QByteArray, onDemand);
     QFETCH(const bool, hasRequests);
     PtyPeer serialPeer;
-    TcpPeer tcpPeer(tcpModelPort);
-    TcpPeer onDemandPeer(onDemandPort);
+    TcpPeer tcpPeer(portOf(tcpModel));
+    TcpPeer onDemandPeer(portOf(onDemandModel));
     Console console(model);
     const bool isSerial = model == serialModel;
     if (isSerial)
@@ -647,9 +644,9 @@ void tst_LinkFaults::configurationChangesTheModel()
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"Tessaly.cfg"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("TSY11.00\nTessaly (Configuration File)\nGenerate by: Tessaly 1.2.8.0\n"
-               "*** Default Language:\nEnglish\n*** Default Device:\n");
-    file.write(configured.toUtf8() + '\n');
+    file.write(SettingsFile{.model = configured.toUtf8(),
+                            .address = TcpPeer::address().toString().toLatin1().split('.')}
+                   .bytes());
     file.close();
     console.window.loadConfig(file.fileName());
 

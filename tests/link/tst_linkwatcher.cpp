@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "link/linkwatcher.h"
-#include "silentpeer.h"
+#include "passivepeer.h"
+#include "tests/support/absentport.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
@@ -22,6 +23,9 @@ namespace {
 constexpr auto limit = 100ms;
 /// Long enough for another report to come if there were one: the limit and a check of the handle.
 constexpr int silence = 350;
+/// A busy machine makes a connection within this limit, too.
+constexpr auto wideLimit = 2000ms;
+constexpr int wideSilence = 2500;
 constexpr quint16 devicePort = 4001;
 
 /// A pair of links of the test's own, watched; what it reports is kept.
@@ -29,8 +33,13 @@ struct WatchedLinks
 {
     QSerialPort port;
     QTcpSocket socket;
-    LinkWatcher watcher{&port, &socket, limit};
+    LinkWatcher watcher;
     QSignalSpy lost{&watcher, &LinkWatcher::linkLost};
+
+    explicit WatchedLinks(std::chrono::milliseconds connectTimeLimit = limit)
+        : watcher(&port, &socket, connectTimeLimit)
+    {
+    }
 
     bool openPort(const PtyPeer &peer, QIODevice::OpenMode mode = QIODevice::ReadWrite)
     {
@@ -63,14 +72,14 @@ private slots:
     void serialErrors();
     void closedPortIsNotReported();
     void reopenedPortIsWatchedAgain();
-    void goneReceiver();
     void goneWatcher();
     void goneLinks();
 };
 
 void tst_LinkWatcher::unansweredAttemptIsReportedAtTheLimit()
 {
-    const SilentPeer peer(devicePort);
+    PassivePeer peer(devicePort);
+    peer.stopAnswering();
     WatchedLinks links;
     QElapsedTimer time;
     time.start();
@@ -113,7 +122,7 @@ void tst_LinkWatcher::limitAsksForTheState()
     QFETCH(const bool, connected);
     QFETCH(const int, reports);
     const TcpPeer peer(devicePort);
-    WatchedLinks links;
+    WatchedLinks links(wideLimit);
     if (connected) {
         links.socket.connectToHost(TcpPeer::address(), devicePort);
         QTRY_COMPARE(links.socket.state(), QAbstractSocket::ConnectedState);
@@ -121,20 +130,22 @@ void tst_LinkWatcher::limitAsksForTheState()
     QCOMPARE(links.socket.isOpen(), connected);
 
     emit links.socket.stateChanged(QAbstractSocket::HostLookupState);
-    QCOMPARE(QTest::qWaitFor([&] { return !links.lost.isEmpty(); }, silence), reports > 0);
+    QCOMPARE(
+        QTest::qWaitFor([&] { return !links.lost.isEmpty(); }, reports > 0 ? 20'000 : wideSilence),
+        reports > 0);
     QCOMPARE(links.lost.count(), reports);
 }
 
 void tst_LinkWatcher::connectingStopsTheLimit()
 {
     const TcpPeer peer(devicePort);
-    WatchedLinks links;
+    WatchedLinks links(wideLimit);
     links.socket.connectToHost(TcpPeer::address(), devicePort);
     QTRY_COMPARE(links.socket.state(), QAbstractSocket::ConnectedState);
     // A connection that ends after it was made is not an attempt that failed.
     links.socket.disconnectFromHost();
     QTRY_COMPARE(links.socket.state(), QAbstractSocket::UnconnectedState);
-    QVERIFY(!QTest::qWaitFor([&] { return !links.lost.isEmpty(); }, silence));
+    QVERIFY(!QTest::qWaitFor([&] { return !links.lost.isEmpty(); }, wideSilence));
 }
 
 void tst_LinkWatcher::attemptThatClosesItselfIsReported()
@@ -149,7 +160,8 @@ void tst_LinkWatcher::attemptThatClosesItselfIsReported()
 
 void tst_LinkWatcher::closedAttemptDoesNotCostALaterSerialLink()
 {
-    const SilentPeer silent(devicePort);
+    PassivePeer silent(devicePort);
+    silent.stopAnswering();
     const PtyPeer peer;
     WatchedLinks links;
     links.socket.connectToHost(TcpPeer::address(), devicePort);
@@ -202,7 +214,7 @@ void tst_LinkWatcher::failedOpeningReportsNothing()
     QVERIFY(holder.open(QIODevice::ReadWrite));
 
     WatchedLinks links;
-    links.port.setPortName(exists ? peer.portName() : u"/dev/no-such-port"_s);
+    links.port.setPortName(exists ? peer.portName() : absentPort());
     QVERIFY(!links.port.open(QIODevice::ReadWrite));
     QTEST(links.port.error(), "error");
     QVERIFY(!QTest::qWaitFor([&] { return !links.lost.isEmpty(); }, silence));
@@ -230,7 +242,7 @@ void tst_LinkWatcher::vanishedDeviceIsReportedWithoutAnError()
     QVERIFY(links.openPort(peer, QIODevice::WriteOnly));
     QSignalSpy errors(&links.port, &QSerialPort::errorOccurred);
     peer.hangUp();
-    QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), 1, 2000);
+    QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), 1, 20'000);
     QCOMPARE(errors.count(), 0);
     QTest::qWait(silence);
     QCOMPARE(links.lost.count(), 1);
@@ -290,22 +302,8 @@ void tst_LinkWatcher::reopenedPortIsWatchedAgain()
         QTest::qWait(10);
         QCOMPARE(links.lost.count(), opening - 1);
         peer.hangUp();
-        QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), opening, 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), opening, 20'000);
     }
-}
-
-void tst_LinkWatcher::goneReceiver()
-{
-    PtyPeer peer;
-    WatchedLinks links;
-    auto receiver = std::make_unique<QObject>();
-    bool called = false;
-    connect(&links.watcher, &LinkWatcher::linkLost, receiver.get(), [&called] { called = true; });
-    QVERIFY(links.openPort(peer, QIODevice::WriteOnly));
-    receiver.reset();
-    peer.hangUp();
-    QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), 1, 2000);
-    QVERIFY(!called);
 }
 
 void tst_LinkWatcher::goneWatcher()
@@ -327,7 +325,8 @@ void tst_LinkWatcher::goneWatcher()
 
 void tst_LinkWatcher::goneLinks()
 {
-    const SilentPeer silent(devicePort);
+    PassivePeer silent(devicePort);
+    silent.stopAnswering();
     const PtyPeer peer;
     auto port = std::make_unique<QSerialPort>();
     auto socket = std::make_unique<QTcpSocket>();
