@@ -86,8 +86,6 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void title_data();
-    void title();
     void texts_data();
     void texts();
     void systemText();
@@ -106,8 +104,7 @@ private slots:
     void otherWaysOutKeepTheDialog();
     void linkOpensTheWebsite();
     void twoDialogsInARow();
-    void secondDialogSpeaksThePresentLanguage();
-    void screenshot();
+    void secondDialogIsInThePresentLanguage();
 
 private:
     /// Triggers About and returns the dialog, which is on the screen by then.
@@ -146,7 +143,7 @@ void tst_About::cleanup()
     delete m_console;
 }
 
-void tst_About::title_data()
+void tst_About::texts_data()
 {
     QTest::addColumn<QByteArray>("language");
     QTest::addColumn<QString>("title");
@@ -155,28 +152,14 @@ void tst_About::title_data()
     QTest::newRow("French") << "action_French"_ba << u"À propos de Tessaly"_s;
 }
 
-void tst_About::title()
-{
-    QFETCH(QByteArray, language);
-    QFETCH(QString, title);
-
-    m_console->find<QAction>(language.constData())->trigger();
-    QCOMPARE(openDialog()->windowTitle(), title);
-}
-
-void tst_About::texts_data()
-{
-    QTest::addColumn<QByteArray>("language");
-    QTest::newRow("English") << "action_English"_ba;
-    QTest::newRow("French") << "action_French"_ba;
-}
-
 void tst_About::texts()
 {
-    QFETCH(QByteArray, language);
+    QFETCH(const QByteArray, language);
+    QFETCH(const QString, title);
 
     m_console->find<QAction>(language.constData())->trigger();
     const aboutwindow *dialog = openDialog();
+    QCOMPARE(dialog->windowTitle(), title);
     QCOMPARE(dialog->findChild<QLabel *>(u"label_Infos"_s)->text(), informationText());
     QCOMPARE(dialog->findChild<QLabel *>(u"label"_s)->text(), QString());
     QCOMPARE(dialog->whatsThis(), QString());
@@ -277,7 +260,7 @@ void tst_About::modal()
     QVERIFY(dialog->isModal());
     QCOMPARE(QApplication::activeModalWidget(), dialog);
 
-    // The window behind it takes no clicks.
+    // The window below it takes no clicks.
     QTest::mouseClick(m_console->window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                       m_console->find<QAbstractButton>("radioButton_Sent_Dec")
                           ->mapTo(&m_console->window, QPoint(8, 8)));
@@ -318,7 +301,7 @@ void tst_About::pictures()
 
 void tst_About::picturesOnScaledScreen()
 {
-    // The scale holds for a whole program.
+    // The scale holds for a process.
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
     QProcess program;
@@ -411,7 +394,7 @@ void tst_About::twoDialogsInARow()
     QCOMPARE(aboutWindows().size(), 2);
 }
 
-void tst_About::secondDialogSpeaksThePresentLanguage()
+void tst_About::secondDialogIsInThePresentLanguage()
 {
     aboutwindow *first = openDialog();
     first->accept();
@@ -422,16 +405,6 @@ void tst_About::secondDialogSpeaksThePresentLanguage()
     second->accept();
     m_console->find<QAction>("action_English")->trigger();
     QCOMPARE(openDialog()->windowTitle(), u"About Tessaly"_s);
-}
-
-void tst_About::screenshot()
-{
-    const QDir folder(buildPath(u"screenshots/tst_about"_s));
-    QVERIFY(folder.mkpath(u"."_s));
-    const QString path = folder.filePath(u"about.png"_s);
-    const QPixmap shot = openDialog()->grab();
-    QVERIFY(shot.save(path));
-    QVERIFY(!QImage(path).isNull());
 }
 
 TESSALY_WINDOW_TEST(tst_About)

@@ -3,37 +3,29 @@
 
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "tests/app/windowfiles.h"
+#include "tests/support/absentport.h"
+#include "tests/support/examplemodels.h"
+#include "tests/support/hexbytes.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/settingsfile.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QHostAddress>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSerialPort>
-#include <QSerialPortInfo>
 #include <QTcpSocket>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-template<typename T>
-T *widget(const MainWindow &window, const char *name)
-{
-    T *object = window.findChild<T *>(QString::fromLatin1(name));
-    if (!object)
-        qFatal("no %s in the window", name);
-    return object;
-}
 
 /// The enabled widgets of the connection, and the message while one is made.
 QString stateOf(const MainWindow &window)
@@ -54,16 +46,13 @@ const QString connectingState = u"message"_s;
 const QString connectedState = u"pushButton_Disconnect frame_Commands"_s;
 
 /// Writes the file with which the next window starts.
-bool writeConfig(const QByteArray &model, const QString &port, const QByteArray &autoConnection)
+bool writeConfig(const QString &model, const QString &port, const QByteArray &autoConnection)
 {
-    const QString folder = qEnvironmentVariable("XDG_DATA_HOME") + u"/Ambrette/Tessaly"_s;
-    QByteArray address = TcpPeer::address().toString().toLatin1();
-    const QByteArray bytes = "TSY11.00\n\n\n\n(default)\n\n" + model + "\n\n" + port.toLocal8Bit()
-                             + "\n\n(default)\n\n" + address.replace('.', '\n') + "\n\n"
-                             + autoConnection + "\n";
-    QFile file(folder + u"/Tessaly.cfg"_s);
-    return QDir().mkpath(folder) && file.open(QIODevice::WriteOnly)
-           && file.write(bytes) == bytes.size();
+    const SettingsFile file{.model = model.toUtf8(),
+                            .port = port.toLocal8Bit(),
+                            .address = TcpPeer::address().toString().toLatin1().split('.'),
+                            .autoConnection = autoConnection};
+    return writeFile(settingsPath(), file.bytes());
 }
 
 /// Looks around whenever a message box comes up.
@@ -106,18 +95,12 @@ private slots:
 
     void serial_data();
     void serial();
-    void serialPortMissing_data();
     void serialPortMissing();
     void noPortChosen();
-    void tcp_data();
     void tcp();
     void tcpRefused();
-    void onDemandModel();
-    void switchedOff_data();
+    void modelConnectedForEachCommand();
     void switchedOff();
-    void shortcutOfHiddenPanels();
-    void portListIsReadOnce();
-    void emptyCatalogue();
 
 private:
     MessageBoxCatcher m_catcher;
@@ -127,7 +110,7 @@ void tst_autoconnection::init()
 {
     m_catcher.messages.clear();
     qunsetenv("TESSALY_EXTRA_PORTS");
-    QFile::remove(configFilePath);
+    QFile::remove(settingsPath());
 }
 
 void tst_autoconnection::cleanup()
@@ -139,29 +122,23 @@ void tst_autoconnection::cleanup()
 
 void tst_autoconnection::serial_data()
 {
-    QTest::addColumn<QByteArray>("model");
+    QTest::addColumn<QString>("model");
     QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<int>("baudRate");
+    QTest::addColumn<QByteArray>("frame");
 
-    QTest::newRow("1") << "Ampra One"_ba
-                       << "1"_ba << 19200;
-    QTest::newRow("2") << "Ampra One"_ba
-                       << "2"_ba << 19200;
-    QTest::newRow("-1") << "Ampra One"_ba
-                        << "-1"_ba << 19200;
-    QTest::newRow("first model") << "Tempo Deck"_ba
-                                 << "1"_ba << 19200;
-    QTest::newRow("video player") << "Vistar Show - SV500 (Serial)"_ba
-                                  << "1"_ba << 115200;
-    QTest::newRow("extended model") << "Sonet A (Serial)"_ba
-                                    << "1"_ba << 115200;
+    QTest::newRow("classic") << serialModel << "1"_ba
+                             << "80 02 01"_ba;
+    QTest::newRow("classic, switched on by another number") << serialModel << "2"_ba
+                                                            << "80 02 01"_ba;
+    QTest::newRow("extended") << extendedSerialModel << "1"_ba
+                              << "02 01"_ba;
 }
 
 void tst_autoconnection::serial()
 {
-    QFETCH(QByteArray, model);
-    QFETCH(QByteArray, line);
-    QFETCH(int, baudRate);
+    QFETCH(const QString, model);
+    QFETCH(const QByteArray, line);
+    QFETCH(const QByteArray, frame);
 
     const PtyPeer other;
     PtyPeer peer;
@@ -172,7 +149,7 @@ void tst_autoconnection::serial()
         QVERIFY(!window.isVisible());
         QVERIFY(serialPort->isOpen());
         QCOMPARE(u"/dev/"_s + serialPort->portName(), peer.portName());
-        QCOMPARE(serialPort->baudRate(), baudRate);
+        QCOMPARE(serialPort->baudRate(), sheetOf(model).defaultBaudRate);
         QVERIFY(widget<QCheckBox>(window, "checkBox_Auto_connection")->isChecked());
         QCOMPARE(stateOf(window), connectedState);
 
@@ -182,30 +159,17 @@ void tst_autoconnection::serial()
         QVERIFY(peer.send("hello"));
         QTRY_COMPARE(receivedText, u"hello"_s);
         window.sendCommand(0x02, "\x01"_ba);
-        const QByteArray frame = model == "Sonet A (Serial)" ? "\x02\x01"_ba : "\x80\x02\x01"_ba;
-        QTRY_COMPARE(peer.received().toHex(' '), frame.toHex(' '));
+        QTRY_COMPARE(hexBytes(peer.received()), frame);
     }
     // Whatever number switched it on, it is saved as 1.
-    QFile file(configFilePath);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().split('\n').at(17), "1"_ba);
+    QCOMPARE(readFile(settingsPath()).split('\n').value(17), "1"_ba);
     QVERIFY(m_catcher.messages.isEmpty());
-}
-
-void tst_autoconnection::serialPortMissing_data()
-{
-    QTest::addColumn<QByteArray>("line");
-
-    QTest::newRow("1") << "1"_ba;
-    QTest::newRow("2") << "2"_ba;
 }
 
 void tst_autoconnection::serialPortMissing()
 {
-    QFETCH(QByteArray, line);
-
-    qputenv("TESSALY_EXTRA_PORTS", "/dev/ttyTestMissing");
-    QVERIFY(writeConfig("Ampra One", u"/dev/ttyTestMissing"_s, line));
+    qputenv("TESSALY_EXTRA_PORTS", absentPort().toLocal8Bit());
+    QVERIFY(writeConfig(serialModel, absentPort(), "1"));
     const BoxWatcher watcher;
 
     MainWindow window;
@@ -232,7 +196,7 @@ void tst_autoconnection::serialPortMissing()
 void tst_autoconnection::noPortChosen()
 {
     // Without a port there is nothing to connect to, and nothing to say.
-    QVERIFY(writeConfig("Ampra One", {}, "0"));
+    QVERIFY(writeConfig(serialModel, {}, "0"));
     MainWindow window;
     widget<QComboBox>(window, "comboBox_Port")->clear();
     widget<QCheckBox>(window, "checkBox_Auto_connection")->setChecked(true);
@@ -242,33 +206,17 @@ void tst_autoconnection::noPortChosen()
     QVERIFY(m_catcher.messages.isEmpty());
 }
 
-void tst_autoconnection::tcp_data()
-{
-    QTest::addColumn<QByteArray>("model");
-    QTest::addColumn<QByteArray>("line");
-
-    QTest::newRow("1") << "Vistar Show - SV500 (TCP/IP)"_ba
-                       << "1"_ba;
-    QTest::newRow("2") << "Vistar Home - HV4xx (TCP/IP)"_ba
-                       << "2"_ba;
-    QTest::newRow("legacy") << "HV1xx (TCP/IP) (legacy)"_ba
-                            << "1"_ba;
-}
-
 void tst_autoconnection::tcp()
 {
-    QFETCH(QByteArray, model);
-    QFETCH(QByteArray, line);
-
-    TcpPeer peer(65079);
-    QVERIFY(writeConfig(model, {}, line));
+    TcpPeer peer(portOf(tcpModel));
+    QVERIFY(writeConfig(tcpModel, {}, "1"));
     MainWindow window;
     QVERIFY(!window.isVisible());
     QCOMPARE(stateOf(window), connectingState);
     QTRY_COMPARE(stateOf(window), connectedState);
     QTRY_COMPARE(peer.connectionCount(), 1);
     window.sendCommand(0x02, "\x01"_ba);
-    QTRY_COMPARE(peer.received().toHex(' '), "80 02 01"_ba);
+    QTRY_COMPARE(hexBytes(peer.received()), "80 02 01"_ba);
     peer.send("hello");
     QTRY_COMPARE(receivedText, u"hello"_s);
     QVERIFY(m_catcher.messages.isEmpty());
@@ -276,19 +224,19 @@ void tst_autoconnection::tcp()
 
 void tst_autoconnection::tcpRefused()
 {
-    // Nobody listens: the attempt ends without a word.
-    QVERIFY(writeConfig("Vistar Show - SV500 (TCP/IP)", {}, "1"));
+    // Nobody listens: the attempt ends silently.
+    QVERIFY(writeConfig(tcpModel, {}, "1"));
     const MainWindow window(nullptr, 200ms);
     QCOMPARE(stateOf(window), connectingState);
     QTRY_COMPARE(stateOf(window), disconnectedState);
     QVERIFY(m_catcher.messages.isEmpty());
 }
 
-void tst_autoconnection::onDemandModel()
+void tst_autoconnection::modelConnectedForEachCommand()
 {
     // The box is hidden for this model, but what another one has saved still holds.
-    TcpPeer peer(1234);
-    QVERIFY(writeConfig("Sonet A Lite (TCP/IP)", {}, "1"));
+    TcpPeer peer(portOf(onDemandModel));
+    QVERIFY(writeConfig(onDemandModel, {}, "1"));
     MainWindow window;
     QVERIFY(widget<QCheckBox>(window, "checkBox_Auto_connection")->isHidden());
     QVERIFY(widget<QCheckBox>(window, "checkBox_Auto_connection")->isChecked());
@@ -301,89 +249,15 @@ void tst_autoconnection::onDemandModel()
     QVERIFY(m_catcher.messages.isEmpty());
 }
 
-void tst_autoconnection::switchedOff_data()
-{
-    QTest::addColumn<QByteArray>("line");
-
-    QTest::newRow("0") << "0"_ba;
-    QTest::newRow("empty") << ""_ba;
-    QTest::newRow("garbage") << "yes"_ba;
-    QTest::newRow("fraction") << "1.5"_ba;
-    QTest::newRow("above 32 bits") << "2147483648"_ba;
-}
-
 void tst_autoconnection::switchedOff()
 {
-    QFETCH(QByteArray, line);
-
     const PtyPeer peer;
     qputenv("TESSALY_EXTRA_PORTS", peer.portName().toLocal8Bit());
-    QVERIFY(writeConfig("Ampra One", peer.portName(), line));
+    QVERIFY(writeConfig(serialModel, peer.portName(), "0"));
     const MainWindow window;
     QCOMPARE(widget<QComboBox>(window, "comboBox_Port")->currentText(), peer.portName());
     QVERIFY(!widget<QCheckBox>(window, "checkBox_Auto_connection")->isChecked());
     QVERIFY(!serialPort->isOpen());
-    QCOMPARE(stateOf(window), disconnectedState);
-    QVERIFY(m_catcher.messages.isEmpty());
-}
-
-void tst_autoconnection::shortcutOfHiddenPanels()
-{
-    PtyPeer peer;
-    qputenv("TESSALY_EXTRA_PORTS", peer.portName().toLocal8Bit());
-    QVERIFY(writeConfig("Tempo Deck", peer.portName(), "1"));
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QTest::keyClick(&window, Qt::Key_5, Qt::ControlModifier);
-    QTRY_COMPARE(peer.received().toHex(' '), "80 01 05"_ba);
-    peer.takeReceived();
-    window.hideCommandPanels();
-    QVERIFY(!widget<QWidget>(window, "frame_Folder")->isVisible());
-    QTest::keyClick(&window, Qt::Key_5, Qt::ControlModifier);
-    QTRY_COMPARE(peer.received().toHex(' '), "80 01 05"_ba);
-}
-
-void tst_autoconnection::portListIsReadOnce()
-{
-    QStringList machinePorts;
-    for (const QSerialPortInfo &port : QSerialPortInfo::availablePorts())
-        machinePorts.append(port.portName());
-    const auto listOf = [](const MainWindow &window) {
-        const auto *list = widget<QComboBox>(window, "comboBox_Port");
-        QStringList ports;
-        for (int i = 0; i < list->count(); ++i)
-            ports.append(list->itemText(i));
-        return ports;
-    };
-    {
-        MainWindow window;
-        QCOMPARE(listOf(window), machinePorts);
-        qputenv("TESSALY_EXTRA_PORTS", "/dev/ttyTest1");
-        window.show();
-        window.on_comboBox_Player_activated(1);
-        window.on_pushButton_Disconnect_clicked();
-        QCOMPARE(listOf(window), machinePorts);
-    }
-    const MainWindow window;
-    QCOMPARE(listOf(window), machinePorts + QStringList{u"/dev/ttyTest1"_s});
-}
-
-void tst_autoconnection::emptyCatalogue()
-{
-    MainWindow window;
-    auto *models = widget<QComboBox>(window, "comboBox_Player");
-    models->clear();
-    deviceCatalogue.clear();
-    QVERIFY(QMetaObject::invokeMethod(&window, "applyStartupDefaults"));
-    QCOMPARE(models->currentIndex(), -1);
-    window.on_comboBox_Player_activated(0);
-    QCOMPARE(models->currentIndex(), -1);
-    window.loadConfig(configFilePath);
-    QVERIFY(writeConfig("Tempo Deck", {}, "1"));
-    window.loadConfig(configFilePath);
-    QCOMPARE(models->currentIndex(), -1);
-    window.on_pushButton_Connect_clicked();
     QCOMPARE(stateOf(window), disconnectedState);
     QVERIFY(m_catcher.messages.isEmpty());
 }

@@ -3,19 +3,18 @@
 
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "tests/app/windowfiles.h"
+#include "tests/support/examplemodels.h"
 #include "tests/support/messageboxcatcher.h"
+#include "tests/support/settingsfile.h"
+#include "tests/support/sheetrows.h"
 #include "tests/support/testmain.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QRadioButton>
-#include <QRandomGenerator>
 #include <QScopeGuard>
 #include <QSerialPort>
 #include <QSerialPortInfo>
@@ -33,20 +32,17 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mebibyte = 1 << 20;
-
-template<typename T>
-T *widget(const MainWindow &window, const char *name)
-{
-    T *object = window.findChild<T *>(QString::fromLatin1(name));
-    if (!object)
-        qFatal("no %s in the window", name);
-    return object;
-}
-
-void select(const MainWindow &window, const char *list, int row)
+void selectRow(const MainWindow &window, const char *list, int row)
 {
     widget<QComboBox>(window, list)->setCurrentIndex(row);
+}
+
+/// Chooses a model as the user does.
+void chooseModel(MainWindow &window, const QString &name)
+{
+    auto *models = widget<QComboBox>(window, "comboBox_Player");
+    models->setCurrentText(name);
+    window.on_comboBox_Player_activated(models->currentIndex());
 }
 
 QString current(const MainWindow &window, const char *list)
@@ -54,10 +50,33 @@ QString current(const MainWindow &window, const char *list)
     return widget<QComboBox>(window, list)->currentText();
 }
 
+QStringList itemTexts(const MainWindow &window, const char *list)
+{
+    const auto *comboBox = widget<QComboBox>(window, list);
+    QStringList texts;
+    for (int row = 0; row < comboBox->count(); ++row)
+        texts.append(comboBox->itemText(row));
+    return texts;
+}
+
 template<typename Button>
 void setChecked(const MainWindow &window, const char *name, bool checked = true)
 {
     widget<Button>(window, name)->setChecked(checked);
+}
+
+void uncheck(const MainWindow &window, const char *radioButton)
+{
+    widget<QRadioButton>(window, radioButton)->setAutoExclusive(false);
+    setChecked<QRadioButton>(window, radioButton, false);
+}
+
+/// Also when another button of the group is checked.
+void checkBesides(const MainWindow &window, const char *radioButton)
+{
+    for (auto *button : window.findChildren<QRadioButton *>())
+        button->setAutoExclusive(false);
+    setChecked<QRadioButton>(window, radioButton);
 }
 
 /// The file system as someone sees it who owns nothing in it, for as long as the object lives.
@@ -81,40 +100,26 @@ QString home()
     return qEnvironmentVariable("XDG_DATA_HOME");
 }
 
-QString folder()
-{
-    return home() + u"/Ambrette/Tessaly"_s;
-}
-
-QString path()
-{
-    return folder() + u"/Tessaly.cfg"_s;
-}
-
-/// Beside this program, that is beside the console's own one.
+/// Beside this program, which lies beside the console's own one.
 QString pathBesideProgram()
 {
     return QCoreApplication::applicationDirPath() + u"/Tessaly.cfg"_s;
 }
 
-bool write(const QString &name, const QByteArray &bytes)
+/// A difference then names its line.
+QByteArrayList savedLines()
 {
-    QFile file(name);
-    return QDir().mkpath(QFileInfo(name).path()) && file.open(QIODevice::WriteOnly)
-           && file.write(bytes) == bytes.size() && file.flush();
+    return readFile(settingsPath()).split('\n');
 }
 
-QByteArray read(const QString &name)
+QByteArrayList linesOf(const SettingsFile &file)
 {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(no file)"_ba;
+    return file.bytes().split('\n');
 }
 
-/// The lines of a file and what stands behind its last line end, so that a difference names its
-/// line.
-QByteArrayList linesOf(const QString &name)
+bool writeSettings(const SettingsFile &file)
 {
-    return read(name).split('\n');
+    return writeFile(settingsPath(), file.bytes());
 }
 
 /// The current row of the port list when nobody chose one.
@@ -124,54 +129,35 @@ QString firstPort()
     return ports.isEmpty() ? u"/dev/ttyTest1"_s : ports.first().portName();
 }
 
-/// Every setting differs from the one that a new user has, but the player ID.
-const QByteArrayList changedLines{
-    "TSY11.00",
-    "Tessaly (Configuration File)",
-    "Generate by: Tessaly 1.2.8.0",
-    "*** Default Language:",
-    "English",
-    "*** Default Device:",
-    "Vistar Show - SV500 (Serial)",
-    "*** Default Serial Port:",
-    "/dev/ttyTest2",
-    "*** Default Baudrate:",
-    "57600",
-    "*** Default IP Address:",
-    "10",
-    "20",
-    "30",
-    "40",
-    "*** Default Auto-connection:",
-    "0",
-    "*** Default Player ID:",
-    "0",
-    "*** Default Command Bytes Sent Setting:",
-    "3",
-    "*** Default Data Received Setting:",
-    "2",
-};
-
-QByteArray fileOf(const QByteArrayList &lines, const QByteArray &lineEnd = "\n")
+/// What a new user has, who changes nothing.
+SettingsFile newUsersFile()
 {
-    QByteArray bytes;
-    for (const QByteArray &line : lines)
-        bytes += line + lineEnd;
-    return bytes;
+    const ModelSheet &sheet = modelSheets().constFirst();
+    return {.model = sheet.name.toUtf8(),
+            .port = firstPort().toUtf8(),
+            .baudRate = QByteArray::number(sheet.defaultBaudRate),
+            .playerId = QByteArray::number(sheet.lowestPlayerId),
+            .sentForm = "2",
+            .dataForm = "1"};
 }
 
-/// changedLines with other content of some lines, counted from 1.
-QByteArrayList changedLinesWith(std::initializer_list<std::pair<int, QByteArray>> changes)
-{
-    QByteArrayList lines = changedLines;
-    for (const auto &[number, line] : changes)
-        lines[number - 1] = line;
-    return lines;
-}
+/// Every setting differs from a new user's, but auto-connection and player ID.
+const SettingsFile changedFile{.language = "English",
+                               .model = serialModel.toUtf8(),
+                               .port = "/dev/ttyTest2",
+                               .baudRate = "57600",
+                               .address = {"10", "20", "30", "40"},
+                               .playerId = "0",
+                               .sentForm = "3",
+                               .dataForm = "2"};
 
-QByteArray changedFileWith(std::initializer_list<std::pair<int, QByteArray>> changes)
+/// changedFile with one other value.
+template<typename T>
+SettingsFile changedFileWith(T SettingsFile::*member, const T &value)
 {
-    return fileOf(changedLinesWith(changes));
+    SettingsFile file = changedFile;
+    file.*member = value;
+    return file;
 }
 
 enum Setting { Language, Model, Port, BaudRate, Address, AutoConnection, PlayerId, Sent, Data };
@@ -213,21 +199,22 @@ QStringList settingsOf(const MainWindow &window)
 
 QStringList newUsersSettings()
 {
-    return {u"Default"_s, u"Tempo Deck"_s, firstPort(),           u"19200"_s, u"0.0.0.0"_s,
-            u"off"_s,     u"0"_s,          u"Hex shown in hex"_s, u"ASCII"_s};
+    const SettingsFile file = newUsersFile();
+    return {u"Default"_s,
+            QString::fromUtf8(file.model),
+            firstPort(),
+            QString::fromUtf8(file.baudRate),
+            u"0.0.0.0"_s,
+            u"off"_s,
+            QString::fromUtf8(file.playerId),
+            u"Hex shown in hex"_s,
+            u"ASCII"_s};
 }
 
 QStringList changedSettings()
 {
-    return {u"English"_s,
-            u"Vistar Show - SV500 (Serial)"_s,
-            u"/dev/ttyTest2"_s,
-            u"57600"_s,
-            u"10.20.30.40"_s,
-            u"off"_s,
-            u"0"_s,
-            u"Dec shown in decimal"_s,
-            u"Hex"_s};
+    return {u"English"_s, serialModel, u"/dev/ttyTest2"_s,        u"57600"_s, u"10.20.30.40"_s,
+            u"off"_s,     u"0"_s,      u"Dec shown in decimal"_s, u"Hex"_s};
 }
 
 QStringList with(QStringList settings, std::initializer_list<std::pair<Setting, QString>> changes)
@@ -253,7 +240,10 @@ using Change = void (*)(MainWindow &);
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(SettingsFile)
 
+/// What the window does with its settings file. What a line means is the business of
+/// tst_configlines.
 class tst_config : public QObject
 {
     Q_OBJECT
@@ -269,26 +259,22 @@ private slots:
     void untouchedRun();
     void allChangedByTheUser();
     void writtenOnlyAtTheEnd();
-    void writtenLine_data();
-    void writtenLine();
+    void written_data();
+    void written();
     void foreignFileIsReplaced();
+    void foreignFileChangesNothing();
 
     void roundTrip();
     void playerIdIsNotRestored();
     void restored_data();
     void restored();
-    void unusableLinesChangeNothing_data();
     void unusableLinesChangeNothing();
     void addressOverAnother();
-    void cutAfterLine_data();
-    void cutAfterLine();
-    void cutInsideLine_data();
-    void cutInsideLine();
 
-    void modelWithItsPanels_data();
-    void modelWithItsPanels();
+    void everyModel_data() { addModelRows(); }
+    void everyModel();
+    void modelThatIsNotOffered();
     void modelNameAsPlayerId();
-    void baudRateOfAnotherModel();
     void languageIsAppliedByTheConstructor();
     void sentBytesInTheRestoredForm();
 
@@ -319,7 +305,7 @@ void tst_config::init()
 {
     qputenv("TESSALY_EXTRA_PORTS", "/dev/ttyTest1:/dev/ttyTest2");
     QVERIFY(QDir(home() + u"/Ambrette"_s).removeRecursively());
-    QVERIFY(QDir().mkpath(folder()));
+    QVERIFY(QDir().mkpath(settingsFolder()));
 }
 
 void tst_config::cleanup()
@@ -332,27 +318,34 @@ void tst_config::cleanup()
 
 void tst_config::fileName()
 {
-    QVERIFY(QDir(home() + u"/Ambrette"_s).removeRecursively());
-    configFilePath.clear();
-    {
-        const MainWindow window;
-        QCOMPARE(configFilePath, path());
-        QVERIFY(QFileInfo(folder()).isDir());
-        QVERIFY(!QFile::exists(path()));
+    // The folder is created with all its parents, and used when it is there.
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    const auto comeBack = qScopeGuard([&] { qputenv("XDG_DATA_HOME", before); });
+    const QString parent = home() + u"/not/there"_s;
+    qputenv("XDG_DATA_HOME", parent.toLocal8Bit());
+    for (int start = 0; start < 2; ++start) {
+        configFilePath.clear();
+        {
+            const MainWindow window;
+            QCOMPARE(configFilePath, parent + u"/Ambrette/Tessaly/Tessaly.cfg"_s);
+            QVERIFY(QFileInfo(parent + u"/Ambrette/Tessaly"_s).isDir());
+            QCOMPARE(QFile::exists(configFilePath), start > 0);
+        }
+        QVERIFY(QFile::exists(parent + u"/Ambrette/Tessaly/Tessaly.cfg"_s));
     }
-    QVERIFY(QFile::exists(path()));
 }
 
 void tst_config::folderThatCannotBeMade()
 {
+    QTest::failOnWarning(QRegularExpression(u"Ambrette"_s));
     QVERIFY(QDir(home() + u"/Ambrette"_s).removeRecursively());
-    QVERIFY(write(home() + u"/Ambrette"_s, "a file"));
+    QVERIFY(writeFile(home() + u"/Ambrette"_s, "a file"));
     {
         const MainWindow window;
-        QCOMPARE(configFilePath, path());
+        QCOMPARE(configFilePath, settingsPath());
         QCOMPARE(settingsOf(window), newUsersSettings());
     }
-    QCOMPARE(read(home() + u"/Ambrette"_s), "a file"_ba);
+    QCOMPARE(readFile(home() + u"/Ambrette"_s), "a file"_ba);
     QVERIFY(QFile::remove(home() + u"/Ambrette"_s));
 }
 
@@ -362,32 +355,7 @@ void tst_config::untouchedRun()
         const MainWindow window;
         QCOMPARE(settingsOf(window), newUsersSettings());
     }
-    const QByteArray expected = "TSY11.00\n"
-                                "Tessaly (Configuration File)\n"
-                                "Generate by: Tessaly 1.2.8.0\n"
-                                "*** Default Language:\n"
-                                "(default)\n"
-                                "*** Default Device:\n"
-                                "Tempo Deck\n"
-                                "*** Default Serial Port:\n"
-                                + firstPort().toUtf8()
-                                + "\n"
-                                  "*** Default Baudrate:\n"
-                                  "19200\n"
-                                  "*** Default IP Address:\n"
-                                  "0\n"
-                                  "0\n"
-                                  "0\n"
-                                  "0\n"
-                                  "*** Default Auto-connection:\n"
-                                  "0\n"
-                                  "*** Default Player ID:\n"
-                                  "0\n"
-                                  "*** Default Command Bytes Sent Setting:\n"
-                                  "2\n"
-                                  "*** Default Data Received Setting:\n"
-                                  "1\n";
-    QCOMPARE(linesOf(path()), expected.split('\n'));
+    QCOMPARE(savedLines(), linesOf(newUsersFile()));
 }
 
 void tst_config::allChangedByTheUser()
@@ -395,693 +363,345 @@ void tst_config::allChangedByTheUser()
     {
         MainWindow window;
         widget<QAction>(window, "action_French")->trigger();
-        select(window, "comboBox_Player", 4);
-        window.on_comboBox_Player_activated(4);
+        chooseModel(window, u"Ampra One"_s);
         widget<QComboBox>(window, "comboBox_Port")->setCurrentText(u"/dev/ttyTest2"_s);
-        select(window, "comboBox_Baudrate", 1);
+        widget<QComboBox>(window, "comboBox_Baudrate")->setCurrentText(u"9600"_s);
         widget<QSpinBox>(window, "spinBox_IP_1")->setValue(192);
         widget<QSpinBox>(window, "spinBox_IP_2")->setValue(168);
         widget<QSpinBox>(window, "spinBox_IP_3")->setValue(5);
         widget<QSpinBox>(window, "spinBox_IP_4")->setValue(255);
         setChecked<QCheckBox>(window, "checkBox_Auto_connection");
-        select(window, "comboBox_ID", 127);
+        widget<QComboBox>(window, "comboBox_ID")->setCurrentText(u"127"_s);
         setChecked<QRadioButton>(window, "radioButton_Sent_Dec");
         setChecked<QRadioButton>(window, "radioButton_Data_Dec");
     }
-    const QByteArray expected = "TSY11.00\n"
-                                "Tessaly (Configuration File)\n"
-                                "Generate by: Tessaly 1.2.8.0\n"
-                                "*** Default Language:\n"
-                                "French\n"
-                                "*** Default Device:\n"
-                                "Ampra One\n"
-                                "*** Default Serial Port:\n"
-                                "/dev/ttyTest2\n"
-                                "*** Default Baudrate:\n"
-                                "9600\n"
-                                "*** Default IP Address:\n"
-                                "192\n"
-                                "168\n"
-                                "5\n"
-                                "255\n"
-                                "*** Default Auto-connection:\n"
-                                "1\n"
-                                "*** Default Player ID:\n"
-                                "127\n"
-                                "*** Default Command Bytes Sent Setting:\n"
-                                "3\n"
-                                "*** Default Data Received Setting:\n"
-                                "3\n"_ba;
-    QCOMPARE(linesOf(path()), expected.split('\n'));
+    const SettingsFile expected{.language = "French",
+                                .model = "Ampra One",
+                                .port = "/dev/ttyTest2",
+                                .baudRate = "9600",
+                                .address = {"192", "168", "5", "255"},
+                                .autoConnection = "1",
+                                .playerId = "127",
+                                .sentForm = "3",
+                                .dataForm = "3"};
+    QCOMPARE(savedLines(), linesOf(expected));
 }
 
 void tst_config::writtenOnlyAtTheEnd()
 {
-    QVERIFY(write(path(), fileOf(changedLines)));
+    QVERIFY(writeSettings(changedFile));
     {
         MainWindow window;
         window.show();
         widget<QSpinBox>(window, "spinBox_IP_1")->setValue(77);
         window.close();
-        QCOMPARE(linesOf(path()), fileOf(changedLines).split('\n'));
+        QCOMPARE(savedLines(), linesOf(changedFile));
     }
-    QCOMPARE(linesOf(path()), changedFileWith({{13, "77"}}).split('\n'));
+    QCOMPARE(savedLines(),
+             linesOf(changedFileWith(&SettingsFile::address, {"77", "20", "30", "40"})));
 }
 
-void tst_config::writtenLine_data()
+void tst_config::written_data()
 {
     QTest::addColumn<Change>("change");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<SettingsFile>("file");
 
-    const auto row = [](const char *name, int number, const char *line, Change change) {
-        QTest::newRow(name) << change << number << QByteArray(line);
+    using Value = QByteArray SettingsFile::*;
+    const auto row = [](const char *name, Value member, const QByteArray &value, Change change) {
+        SettingsFile file = newUsersFile();
+        file.*member = value;
+        QTest::newRow(name) << change << file;
     };
 
-    row("language default", 5, "(default)", [](MainWindow &) {});
-    row("language English", 5, "English",
+    const Value language = &SettingsFile::language;
+    row("language English", language, "English",
         [](MainWindow &window) { widget<QAction>(window, "action_English")->trigger(); });
-    row("language French", 5, "French",
-        [](MainWindow &window) { widget<QAction>(window, "action_French")->trigger(); });
-    row("no language checked", 5, "(default)",
+    row("no language checked", language, "(default)",
         [](MainWindow &window) { window.uncheckLanguageActions(); });
-    row("English before French", 5, "English", [](MainWindow &window) {
+    row("English before French", language, "English", [](MainWindow &window) {
         setChecked<QAction>(window, "action_English");
         setChecked<QAction>(window, "action_French");
     });
-    row("first model", 7, "Tempo Deck", [](MainWindow &) {});
-    row("last model", 7, "HV0xx (legacy)",
-        [](MainWindow &window) { select(window, "comboBox_Player", 14); });
-    row("no model", 7, "(default)",
-        [](MainWindow &window) { select(window, "comboBox_Player", -1); });
-    row("port", 9, "/dev/ttyTest2", [](MainWindow &window) {
-        widget<QComboBox>(window, "comboBox_Port")->setCurrentText(u"/dev/ttyTest2"_s);
-    });
-    row("port beyond ASCII", 9, "p\xC3\xB6rt", [](MainWindow &window) {
+    row("no model", &SettingsFile::model, "(default)",
+        [](MainWindow &window) { selectRow(window, "comboBox_Player", -1); });
+    const Value port = &SettingsFile::port;
+    row("port beyond ASCII", port, "p\xC3\xB6rt", [](MainWindow &window) {
         widget<QComboBox>(window, "comboBox_Port")->addItem(u"pört"_s);
         widget<QComboBox>(window, "comboBox_Port")->setCurrentText(u"pört"_s);
     });
-    row("no port chosen", 9, "(default)",
-        [](MainWindow &window) { select(window, "comboBox_Port", -1); });
-    row("no port present", 9, "(default)",
+    row("no port chosen", port, "(default)",
+        [](MainWindow &window) { selectRow(window, "comboBox_Port", -1); });
+    row("no port present", port, "(default)",
         [](MainWindow &window) { widget<QComboBox>(window, "comboBox_Port")->clear(); });
-    row("baud rate", 11, "9600",
-        [](MainWindow &window) { select(window, "comboBox_Baudrate", 0); });
-    row("no baud rate chosen", 11, "(default)",
-        [](MainWindow &window) { select(window, "comboBox_Baudrate", -1); });
-    row("TCP model without baud rates", 11, "(default)",
-        [](MainWindow &window) { window.on_comboBox_Player_activated(3); });
-    for (int i = 0; i < 4; ++i) {
-        static constexpr Change changes[] = {
-            [](MainWindow &window) { widget<QSpinBox>(window, "spinBox_IP_1")->setValue(255); },
-            [](MainWindow &window) { widget<QSpinBox>(window, "spinBox_IP_2")->setValue(255); },
-            [](MainWindow &window) { widget<QSpinBox>(window, "spinBox_IP_3")->setValue(255); },
-            [](MainWindow &window) { widget<QSpinBox>(window, "spinBox_IP_4")->setValue(255); },
-        };
-        QTest::addRow("address %d", i + 1) << changes[i] << 13 + i << "255"_ba;
-    }
-    row("auto-connection", 18, "1",
-        [](MainWindow &window) { setChecked<QCheckBox>(window, "checkBox_Auto_connection"); });
-    row("auto-connection that the model hides", 18, "1", [](MainWindow &window) {
-        setChecked<QCheckBox>(window, "checkBox_Auto_connection");
-        select(window, "comboBox_Player", 7);
-        window.on_comboBox_Player_activated(7);
-    });
-    row("player ID", 20, "12", [](MainWindow &window) { select(window, "comboBox_ID", 12); });
-    row("the one ID of a TCP model", 20, "0", [](MainWindow &window) {
-        select(window, "comboBox_ID", 12);
-        window.on_comboBox_Player_activated(3);
-    });
-    row("no player ID", 20, "(default)",
+    row("no baud rate chosen", &SettingsFile::baudRate, "(default)",
+        [](MainWindow &window) { selectRow(window, "comboBox_Baudrate", -1); });
+    row("no player ID", &SettingsFile::playerId, "(default)",
         [](MainWindow &window) { widget<QComboBox>(window, "comboBox_ID")->clear(); });
-    row("sent hexadecimal", 22, "2", [](MainWindow &) {});
-    row("sent decimal", 22, "3",
-        [](MainWindow &window) { setChecked<QRadioButton>(window, "radioButton_Sent_Dec"); });
-    row("sent neither", 22, "(default)", [](MainWindow &window) {
-        widget<QRadioButton>(window, "radioButton_Sent_Hex")->setAutoExclusive(false);
-        setChecked<QRadioButton>(window, "radioButton_Sent_Hex", false);
+    const Value sent = &SettingsFile::sentForm;
+    row("sent neither", sent, "(default)",
+        [](MainWindow &window) { uncheck(window, "radioButton_Sent_Hex"); });
+    row("sent both: hexadecimal wins", sent, "2",
+        [](MainWindow &window) { checkBesides(window, "radioButton_Sent_Dec"); });
+    const Value data = &SettingsFile::dataForm;
+    row("data none", data, "(default)",
+        [](MainWindow &window) { uncheck(window, "radioButton_Data_ASCII"); });
+    row("data ASCII and hexadecimal: the last wins", data, "2",
+        [](MainWindow &window) { checkBesides(window, "radioButton_Data_Hex"); });
+    row("data all three: the last wins", data, "3", [](MainWindow &window) {
+        checkBesides(window, "radioButton_Data_Hex");
+        checkBesides(window, "radioButton_Data_Dec");
     });
-    row("sent both: hexadecimal wins", 22, "2", [](MainWindow &window) {
-        widget<QRadioButton>(window, "radioButton_Sent_Hex")->setAutoExclusive(false);
-        widget<QRadioButton>(window, "radioButton_Sent_Dec")->setAutoExclusive(false);
-        setChecked<QRadioButton>(window, "radioButton_Sent_Dec");
-    });
-    row("data ASCII", 24, "1", [](MainWindow &) {});
-    row("data hexadecimal", 24, "2",
-        [](MainWindow &window) { setChecked<QRadioButton>(window, "radioButton_Data_Hex"); });
-    row("data decimal", 24, "3",
-        [](MainWindow &window) { setChecked<QRadioButton>(window, "radioButton_Data_Dec"); });
-    row("data none", 24, "(default)", [](MainWindow &window) {
-        widget<QRadioButton>(window, "radioButton_Data_ASCII")->setAutoExclusive(false);
-        setChecked<QRadioButton>(window, "radioButton_Data_ASCII", false);
-    });
-    row("data ASCII and hexadecimal: the last wins", 24, "2", [](MainWindow &window) {
-        widget<QRadioButton>(window, "radioButton_Data_ASCII")->setAutoExclusive(false);
-        widget<QRadioButton>(window, "radioButton_Data_Hex")->setAutoExclusive(false);
-        setChecked<QRadioButton>(window, "radioButton_Data_Hex");
-    });
-    row("data all three: the last wins", 24, "3", [](MainWindow &window) {
-        for (const char *name :
-             {"radioButton_Data_ASCII", "radioButton_Data_Hex", "radioButton_Data_Dec"}) {
-            widget<QRadioButton>(window, name)->setAutoExclusive(false);
-            setChecked<QRadioButton>(window, name);
-        }
-    });
+
+    // Its model hides the box.
+    SettingsFile hidden = newUsersFile();
+    hidden.model = onDemandModel.toUtf8();
+    hidden.baudRate = "(default)";
+    hidden.autoConnection = "1";
+    const Change hide = [](MainWindow &window) {
+        setChecked<QCheckBox>(window, "checkBox_Auto_connection");
+        chooseModel(window, onDemandModel);
+    };
+    QTest::newRow("auto-connection that is hidden") << hide << hidden;
 }
 
-void tst_config::writtenLine()
+void tst_config::written()
 {
-    QFETCH(Change, change);
-    QFETCH(int, number);
-    QFETCH(QByteArray, line);
-
+    QFETCH(const Change, change);
+    QFETCH(const SettingsFile, file);
     {
         MainWindow window;
         change(window);
     }
-    const QByteArrayList lines = linesOf(path());
-    QCOMPARE(lines.size(), 25); // nothing behind the last line end
-    QCOMPARE(lines.last(), ""_ba);
-    QCOMPARE(lines.at(number - 1), line);
-    for (const int label : {1, 2, 3, 4, 6, 8, 10, 12, 17, 19, 21, 23})
-        QCOMPARE(lines.at(label - 1), changedLines.at(label - 1));
+    QCOMPARE(savedLines(), linesOf(file));
 }
 
 void tst_config::foreignFileIsReplaced()
 {
-    QVERIFY(write(path(), QByteArray(10'000, 'x')));
+    QVERIFY(writeFile(settingsPath(), QByteArray(10'000, 'x')));
     {
         const MainWindow window;
-        QCOMPARE(settingsOf(window), newUsersSettings());
     }
-    QCOMPARE(read(path()).left(9), "TSY11.00\n"_ba);
-    QCOMPARE(linesOf(path()).mid(22),
-             QByteArrayList({"*** Default Data Received Setting:", "1", ""}));
-    QCOMPARE(read(path()).count('x'), 0);
+    QCOMPARE(savedLines(), linesOf(newUsersFile()));
+}
+
+void tst_config::foreignFileChangesNothing()
+{
+    QVERIFY(writeSettings(changedFile));
+    MainWindow window;
+    const QByteArray foreign = newUsersFile().bytes().replace("TSY11.00", "TSY12.00");
+    QVERIFY(writeFile(settingsPath(), foreign));
+    window.loadConfig(settingsPath());
+    QCOMPARE(settingsOf(window), changedSettings());
 }
 
 void tst_config::roundTrip()
 {
-    QVERIFY(write(path(), fileOf(changedLines)));
+    QVERIFY(writeSettings(changedFile));
     for (int start = 0; start < 2; ++start) {
         {
             const MainWindow window;
             QCOMPARE(settingsOf(window), changedSettings());
+            QVERIFY(widget<QTextEdit>(window, "textEdit_Data")->toPlainText().isEmpty());
         }
-        QCOMPARE(linesOf(path()), fileOf(changedLines).split('\n'));
+        QCOMPARE(savedLines(), linesOf(changedFile));
     }
 }
 
 void tst_config::playerIdIsNotRestored()
 {
     // The line is looked up among the models.
-    QVERIFY(write(path(), changedFileWith({{20, "12"}})));
+    QVERIFY(writeSettings(changedFileWith(&SettingsFile::playerId, "12"_ba)));
     {
         const MainWindow window;
         QCOMPARE(settingsOf(window), changedSettings());
     }
-    QCOMPARE(linesOf(path()), changedFileWith({{20, "0"}}).split('\n'));
+    QCOMPARE(savedLines(), linesOf(changedFile));
 }
 
 void tst_config::restored_data()
 {
-    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<SettingsFile>("file");
     QTest::addColumn<QStringList>("settings");
 
-    const QStringList initial = newUsersSettings();
-    const QStringList changed = changedSettings();
-    const auto row = [](const char *name, const QByteArray &file, const QStringList &settings) {
-        QTest::newRow(name) << file << settings;
-    };
-    const auto changedWith = [&changed](const Setting setting, const QString &value) {
-        return with(changed, {{setting, value}});
+    using Value = QByteArray SettingsFile::*;
+    const auto row = [](const char *name, Value member, const QByteArray &value,
+                        std::initializer_list<std::pair<Setting, QString>> changes) {
+        QTest::newRow(name) << changedFileWith(member, value) << with(changedSettings(), changes);
     };
 
-    row("as written", fileOf(changedLines), changed);
+    row("language French", &SettingsFile::language, "French", {{Language, u"French"_s}});
+    row("language that is not offered", &SettingsFile::language, "German",
+        {{Language, u"Default"_s}});
 
-    row("head inside other characters", changedFileWith({{1, "XTSY11.00Y"}}), changed);
-    row("head in the other order", changedFileWith({{1, "1.00TSY1"}}), changed);
-    row("head sharing the 1", changedFileWith({{1, "TSY1.00"}}), changed);
-    row("head behind 1 MiB", changedFileWith({{1, QByteArray(mebibyte, 'A') + "TSY11.00"}}),
-        changed);
-    row("head behind invalid UTF-8", changedFileWith({{1, "\xFF\xC0TSY11.00"}}), changed);
-    row("head of version 2.00", changedFileWith({{1, "TSY12.00"}}), initial);
-    row("head in lower case", changedFileWith({{1, "tsy11.00"}}), initial);
-    row("head without magic", changedFileWith({{1, "1.00"}}), initial);
-    row("head without version", changedFileWith({{1, "TSY1"}}), initial);
-    row("head empty", changedFileWith({{1, ""}}), initial);
-    row("head on the second line", "\n" + fileOf(changedLines), initial);
-    row("head cut in two by an invalid byte",
-        changedFileWith({{1, "TSY\xFF"
-                             "11.00"}}),
-        initial);
-
-    row("labels are not looked at",
-        changedFileWith({{2, "a"},
-                         {3, ""},
-                         {4, "b"},
-                         {6, "French"},
-                         {8, "c"},
-                         {10, "9600"},
-                         {12, "1"},
-                         {17, "1"},
-                         {19, "Ampra One"},
-                         {21, "2"},
-                         {23, "1"}}),
-        changed);
-    row("lines behind the last", fileOf(changedLines) + "French\nAmpra One\n1\n", changed);
-    row("no line end at the end", fileOf(changedLines).chopped(1), changed);
-    row("CR LF", fileOf(changedLines, "\r\n"), changed);
-    row("CR LF, none at the end", fileOf(changedLines, "\r\n").chopped(2), changed);
-    row("one line missing moves the others", fileOf(changedLines.mid(0, 6) + changedLines.mid(7)),
-        with(initial, {{Language, u"English"_s}, {Address, u"20.30.40.0"_s}}));
-
-    row("language default", changedFileWith({{5, "(default)"}}),
-        changedWith(Language, u"Default"_s));
-    row("language French", changedFileWith({{5, "French"}}), changedWith(Language, u"French"_s));
-    row("language in lower case", changedFileWith({{5, "english"}}),
-        changedWith(Language, u"Default"_s));
-    row("language with a blank", changedFileWith({{5, "English "}}),
-        changedWith(Language, u"Default"_s));
-    row("language with a nul", changedFileWith({{5, QByteArray("English\0", 8)}}),
-        changedWith(Language, u"Default"_s));
-    row("language not offered", changedFileWith({{5, "German"}}),
-        changedWith(Language, u"Default"_s));
-    row("language empty", changedFileWith({{5, ""}}), changedWith(Language, u"Default"_s));
-
-    // Without its model the file's baud rate is none of the list.
-    const QStringList otherModel
-        = with(changed, {{Model, u"Tempo Deck"_s}, {BaudRate, u"19200"_s}});
-    row("model default", changedFileWith({{7, "(default)"}}), otherModel);
-    row("model empty", changedFileWith({{7, ""}}), otherModel);
-    row("model in lower case", changedFileWith({{7, "vistar show - sv500 (serial)"}}), otherModel);
-    row("model with a blank", changedFileWith({{7, "Vistar Show - SV500 (Serial) "}}), otherModel);
-    row("beginning of a model", changedFileWith({{7, "Vistar Show - SV500"}}), otherModel);
-    row("model by wildcard", changedFileWith({{7, "Vistar Show*"}}), otherModel);
-    row("model by number", changedFileWith({{7, "2"}}), otherModel);
-    row("model with invalid UTF-8", changedFileWith({{7, "Vistar Show - SV500 (Serial)\xFF"}}),
-        otherModel);
-    row("model that is not offered", changedFileWith({{7, "Lumo Bridge"}}), otherModel);
-
-    const QStringList otherPort = with(changed, {{Port, firstPort()}});
-    row("port default", changedFileWith({{9, "(default)"}}), otherPort);
-    row("port empty", changedFileWith({{9, ""}}), otherPort);
-    row("port that is not present", changedFileWith({{9, "COM99"}}), otherPort);
-    row("port in upper case", changedFileWith({{9, "/DEV/TTYTEST2"}}), otherPort);
-    row("beginning of a port", changedFileWith({{9, "/dev/ttyTest"}}), otherPort);
-    row("other port", changedFileWith({{9, "/dev/ttyTest1"}}),
-        changedWith(Port, u"/dev/ttyTest1"_s));
-
-    row("lowest baud rate", changedFileWith({{11, "1200"}}), changedWith(BaudRate, u"1200"_s));
-    const QStringList otherBaudRate = with(changed, {{BaudRate, u"115200"_s}});
-    row("baud rate default", changedFileWith({{11, "(default)"}}), otherBaudRate);
-    row("baud rate empty", changedFileWith({{11, ""}}), otherBaudRate);
-    row("baud rate that is not offered", changedFileWith({{11, "14400"}}), otherBaudRate);
-    row("baud rate is text, not a number", changedFileWith({{11, "057600"}}), otherBaudRate);
-    row("baud rate with a blank", changedFileWith({{11, " 57600"}}), otherBaudRate);
-
-    row("address of zeros", changedFileWith({{13, "0"}, {14, "0"}, {15, "0"}, {16, "0"}}),
-        changedWith(Address, u"0.0.0.0"_s));
-    row("highest address", changedFileWith({{13, "255"}, {14, "255"}, {15, "255"}, {16, "255"}}),
-        changedWith(Address, u"255.255.255.255"_s));
-    row("address 256 at 1", changedFileWith({{13, "256"}}), changedWith(Address, u"0.20.30.40"_s));
-    row("address -1 at 2", changedFileWith({{14, "-1"}}), changedWith(Address, u"10.0.30.40"_s));
-    row("address above 32 bits at 3", changedFileWith({{15, "2147483648"}}),
-        changedWith(Address, u"10.20.0.40"_s));
-    row("address empty at 4", changedFileWith({{16, ""}}), changedWith(Address, u"10.20.30.0"_s));
-    row("address as it may be typed",
-        changedFileWith({{13, "+5"}, {14, "05"}, {15, " 6"}, {16, "7 "}}),
-        changedWith(Address, u"5.5.6.7"_s));
-    row("address garbage", changedFileWith({{13, "x"}, {14, "0x1"}, {15, "1.5"}, {16, "\xFF"}}),
-        changedWith(Address, u"0.0.0.0"_s));
-    row("address of invalid UTF-8",
-        changedFileWith({{13, "\xFF"
-                              "5"}}),
-        changedWith(Address, u"0.20.30.40"_s));
-
-    row("auto-connection garbage", changedFileWith({{18, "yes"}}), changed);
-    row("auto-connection empty", changedFileWith({{18, ""}}), changed);
-    row("auto-connection above 32 bits", changedFileWith({{18, "4294967297"}}), changed);
-
-    const QStringList otherSent = with(changed, {{Sent, u"Hex shown in hex"_s}});
-    row("sent 2", changedFileWith({{22, "2"}}), otherSent);
-    row("sent 1, no ASCII form", changedFileWith({{22, "1"}}), otherSent);
-    row("sent 4", changedFileWith({{22, "4"}}), otherSent);
-    row("sent default", changedFileWith({{22, "(default)"}}), otherSent);
-    row("sent empty", changedFileWith({{22, ""}}), otherSent);
-    row("sent +3", changedFileWith({{22, "+3"}}), changed);
-    row("sent 03 with blanks", changedFileWith({{22, " 03 "}}), changed);
-
-    row("data 1", changedFileWith({{24, "1"}}), changedWith(Data, u"ASCII"_s));
-    row("data 3", changedFileWith({{24, "3"}}), changedWith(Data, u"Dec"_s));
-    row("data 0", changedFileWith({{24, "0"}}), changedWith(Data, u"ASCII"_s));
-    row("data 4", changedFileWith({{24, "4"}}), changedWith(Data, u"ASCII"_s));
-    row("data default", changedFileWith({{24, "(default)"}}), changedWith(Data, u"ASCII"_s));
-    row("data empty", changedFileWith({{24, ""}}), changedWith(Data, u"ASCII"_s));
-    row("data +2", changedFileWith({{24, "+2"}}), changed);
-
-    row("empty file", "", initial);
-    row("one line end", "\n", initial);
-    row("24 empty lines", QByteArray(24, '\n'), initial);
-    row("head and 23 empty lines", "TSY11.00" + QByteArray(24, '\n'), initial);
-    // A line ends with LF: all is in the first one.
-    row("CR alone", fileOf(changedLines, "\r"), initial);
-    row("nuls", QByteArray(4096, '\0'), initial);
-    row("1 MiB without a line end", QByteArray(mebibyte, 'A'), initial);
-
-    QRandomGenerator generator(20261121);
-    QByteArray random(mebibyte, Qt::Uninitialized);
-    for (char &byte : random)
-        byte = static_cast<char>(generator.bounded(256));
-    row("1 MiB of random bytes", random, initial);
-    row("1 MiB of random bytes behind the head", "TSY11.00\n" + random, initial);
-
-    QByteArrayList longLines{"TSY11.00"};
-    QByteArrayList digitLines{"TSY11.00"};
-    QByteArrayList randomLines{"TSY11.00"};
-    random.replace('\n', ' ');
-    for (int i = 1; i < 24; ++i) {
-        longLines.append(QByteArray(mebibyte, 'A'));
-        digitLines.append(QByteArray(mebibyte, '1'));
-        randomLines.append(random);
+    // Without its model, the file's baud rate is not in the list.
+    const std::pair<Setting, QString> otherModel{Model, newUsersSettings().at(Model)};
+    const std::pair<Setting, QString> otherModelsRate{BaudRate, newUsersSettings().at(BaudRate)};
+    for (const char *name :
+         {"(default)", "vistar show - sv500 (serial)", "Vistar Show - SV500 (Serial) ",
+          "Vistar Show - SV500", "Vistar Show*", "2", "Vistar Show - SV500 (Serial)\xFF"}) {
+        QTest::addRow("model \"%s\"", name)
+            << changedFileWith(&SettingsFile::model, QByteArray(name))
+            << with(changedSettings(), {otherModel, otherModelsRate});
     }
-    row("lines of 1 MiB", fileOf(longLines), initial);
-    row("lines of 1 MiB of digits", fileOf(digitLines), initial);
-    row("lines of 1 MiB of random bytes", fileOf(randomLines), initial);
-    row("labels of 1 MiB",
-        changedFileWith({{2, longLines[1]}, {4, longLines[1]}, {23, longLines[1]}}), changed);
 
-    row("invalid UTF-8 in every line",
-        fileOf(QByteArrayList(24, "TSY11.00 \xC3\x28 \xE2\x82 \xF0\x28\x8C\xBC \xFE")), initial);
+    const Value port = &SettingsFile::port;
+    const std::pair<Setting, QString> otherPort{Port, firstPort()};
+    row("port default", port, "(default)", {otherPort});
+    row("port that is not present", port, "COM99", {otherPort});
+    row("port in upper case", port, "/DEV/TTYTEST2", {otherPort});
+    row("beginning of a port", port, "/dev/ttyTest", {otherPort});
+    row("first port", port, "/dev/ttyTest1", {{Port, u"/dev/ttyTest1"_s}});
 
-    const QString text = QString::fromLatin1(fileOf(changedLines));
-    row("UTF-8 with byte order mark", "\xEF\xBB\xBF" + text.toUtf8(), changed);
-    row("UTF-16 byte order mark before UTF-8", "\xFF\xFE" + text.toUtf8(), initial);
-    const QByteArray littleEndian(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
-    row("UTF-16 without byte order mark", littleEndian, initial);
-    // The text stream recognizes it and reads on in it.
-    row("UTF-16 with byte order mark", "\xFF\xFE" + littleEndian, changed);
+    const Value baudRate = &SettingsFile::baudRate;
+    const std::pair<Setting, QString> presetRate{BaudRate, u"115200"_s};
+    row("baud rate default", baudRate, "(default)", {presetRate});
+    row("baud rate that is not offered", baudRate, "14400", {presetRate});
+    row("baud rate is text, not a number", baudRate, "057600", {presetRate});
+    row("baud rate with a space", baudRate, " 57600", {presetRate});
+
+    row("sent hexadecimal", &SettingsFile::sentForm, "2", {{Sent, u"Hex shown in hex"_s}});
+    row("data ASCII", &SettingsFile::dataForm, "1", {{Data, u"ASCII"_s}});
+    row("data decimal", &SettingsFile::dataForm, "3", {{Data, u"Dec"_s}});
 }
 
 void tst_config::restored()
 {
-    QFETCH(QByteArray, file);
-    QFETCH(QStringList, settings);
+    QFETCH(const SettingsFile, file);
+    QFETCH(const QStringList, settings);
 
-    QVERIFY(write(path(), file));
+    QVERIFY(writeSettings(file));
     const MainWindow window;
     QCOMPARE(settingsOf(window), settings);
-    QVERIFY(widget<QTextEdit>(window, "textEdit_Data")->toPlainText().isEmpty());
-}
-
-void tst_config::unusableLinesChangeNothing_data()
-{
-    QTest::addColumn<QByteArray>("line");
-
-    QTest::newRow("empty") << ""_ba;
-    QTest::newRow("placeholder") << "(default)"_ba;
-    QTest::newRow("word") << "garbage"_ba;
-    QTest::newRow("-1, of which auto-connection alone makes sense") << "-1"_ba;
-    QTest::newRow("above 32 bits") << "2147483648"_ba;
-    QTest::newRow("invalid UTF-8") << "\xFF\xFF"_ba;
 }
 
 void tst_config::unusableLinesChangeNothing()
 {
-    QFETCH(QByteArray, line);
-
-    QVERIFY(write(path(), changedFileWith({{5, "French"}})));
+    QVERIFY(writeSettings(changedFileWith(&SettingsFile::language, "French"_ba)));
     MainWindow window;
     setChecked<QCheckBox>(window, "checkBox_Auto_connection");
     const QStringList before
         = with(changedSettings(), {{Language, u"French"_s}, {AutoConnection, u"on"_s}});
     QCOMPARE(settingsOf(window), before);
 
-    QVERIFY(write(path(), fileOf(QByteArrayList{"TSY11.00"} + QByteArrayList(23, line))));
-    window.loadConfig(path());
-    // The language alone falls back to its default.
+    QVERIFY(writeFile(settingsPath(), "TSY11.00\n" + "garbage\n"_ba.repeated(23)));
+    window.loadConfig(settingsPath());
+    // The language alone falls back to its default. What switches auto-connection on does not
+    // switch it off.
     QCOMPARE(settingsOf(window), with(before, {{Language, u"Default"_s}}));
-    QCOMPARE(widget<QComboBox>(window, "comboBox_Baudrate")->count(), 8);
+    QVERIFY(itemTexts(window, "comboBox_Baudrate").contains(u"57600"_s));
 }
 
 void tst_config::addressOverAnother()
 {
-    QVERIFY(write(path(), changedFileWith({{13, "10"}, {14, "20"}, {15, "30"}, {16, "40"}})));
+    QVERIFY(writeSettings(changedFile));
     MainWindow window;
-    QCOMPARE(settingsOf(window).at(Address), u"10.20.30.40"_s);
-
-    QVERIFY(write(path(), changedFileWith({{13, "0"}, {14, "256"}, {15, "-1"}, {16, "255"}})));
-    window.loadConfig(path());
+    QVERIFY(writeSettings(changedFileWith(&SettingsFile::address, {"0", "256", "-1", "255"})));
+    window.loadConfig(settingsPath());
     QCOMPARE(settingsOf(window).at(Address), u"0.20.30.255"_s);
 }
 
-void tst_config::cutAfterLine_data()
+/// By its name, with its own lists and panels.
+void tst_config::everyModel()
 {
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QStringList>("settings");
+    QFETCH(const ModelSheet, sheet);
 
-    QStringList settings = newUsersSettings();
-    for (int count = 0; count <= 24; ++count) {
-        switch (count) {
-        case 5:
-            settings[Language] = u"English"_s;
-            break;
-        case 7:
-            settings[Model] = u"Vistar Show - SV500 (Serial)"_s;
-            settings[BaudRate] = u"115200"_s; // the model's own default
-            break;
-        case 9:
-            settings[Port] = u"/dev/ttyTest2"_s;
-            break;
-        case 11:
-            settings[BaudRate] = u"57600"_s;
-            break;
-        case 13:
-            settings[Address] = u"10.0.0.0"_s;
-            break;
-        case 14:
-            settings[Address] = u"10.20.0.0"_s;
-            break;
-        case 15:
-            settings[Address] = u"10.20.30.0"_s;
-            break;
-        case 16:
-            settings[Address] = u"10.20.30.40"_s;
-            break;
-        case 22:
-            settings[Sent] = u"Dec shown in decimal"_s;
-            break;
-        case 24:
-            settings[Data] = u"Hex"_s;
-            break;
-        default:
-            break;
-        }
-        QTest::addRow("after line %d", count) << count << settings;
-    }
-}
+    QStringList baudRates;
+    for (const qint32 rate : sheet.baudRates)
+        baudRates.append(QString::number(rate));
+    QStringList playerIds;
+    for (int id = sheet.lowestPlayerId; id <= sheet.highestPlayerId; ++id)
+        playerIds.append(QString::number(id));
 
-void tst_config::cutAfterLine()
-{
-    QFETCH(int, count);
-    QFETCH(QStringList, settings);
-
-    // With and without the end of the last line.
-    const QByteArray file = fileOf(changedLines.mid(0, count));
-    for (const QByteArray &bytes : {file, file.chopped(count > 0 ? 1 : 0)}) {
-        QVERIFY(write(path(), bytes));
+    SettingsFile file = changedFile;
+    file.model = sheet.name.toUtf8();
+    file.baudRate = "(default)";
+    QVERIFY(writeSettings(file));
+    {
         const MainWindow window;
-        QCOMPARE(settingsOf(window), settings);
+        QCOMPARE(current(window, "comboBox_Player"), sheet.name);
+        QCOMPARE(itemTexts(window, "comboBox_Baudrate"), baudRates);
+        QCOMPARE(current(window, "comboBox_Baudrate"),
+                 sheet.isTcp ? QString() : QString::number(sheet.defaultBaudRate));
+        QCOMPARE(itemTexts(window, "comboBox_ID"), playerIds);
+
+        const auto isHidden
+            = [&](const char *name) { return widget<QWidget>(window, name)->isHidden(); };
+        QCOMPARE(isHidden("frame_IP"), !sheet.isTcp);
+        QCOMPARE(isHidden("frame_Port"), sheet.isTcp);
+        QCOMPARE(isHidden("frame_Baudrate"), sheet.isTcp);
+        QCOMPARE(isHidden("checkBox_Auto_connection"), sheet.connectsOnDemand());
+        QCOMPARE(isHidden("pushButton_Play"), !sheet.has(4));
+        QCOMPARE(isHidden("frame_Request"), !sheet.has(10));
+        if (sheet.isTcp)
+            QCOMPARE(widget<QLabel>(window, "label_IP_Port")->text(),
+                     u"( Port number: %1 )"_s.arg(sheet.tcpPort));
+        QCOMPARE(widget<QWidget>(window, "pushButton_Connect")->isEnabled(),
+                 !sheet.connectsOnDemand());
+        QCOMPARE(widget<QWidget>(window, "frame_Commands")->isEnabled(), sheet.connectsOnDemand());
+    }
+    if (!sheet.isTcp)
+        file.baudRate = QByteArray::number(sheet.defaultBaudRate);
+    file.playerId = QByteArray::number(sheet.lowestPlayerId);
+    QCOMPARE(savedLines(), linesOf(file));
+
+    // The rate is looked for in the list of the file's model, which is applied first.
+    for (const QString &rate : std::as_const(baudRates)) {
+        file.baudRate = rate.toUtf8();
+        QVERIFY(writeSettings(file));
+        const MainWindow window;
+        QCOMPARE(current(window, "comboBox_Baudrate"), rate);
     }
 }
 
-void tst_config::cutInsideLine_data()
+void tst_config::modelThatIsNotOffered()
 {
-    QTest::addColumn<int>("number");
-    QTest::addColumn<int>("length");
-    QTest::addColumn<QStringList>("settings");
-
-    const auto row = [](int number, int length, const QStringList &settings) {
-        QTest::addRow("in line %d behind \"%s\"", number,
-                      changedLines.at(number - 1).left(length).constData())
-            << number << length << settings;
-    };
-
-    QStringList settings = newUsersSettings();
-    row(1, 1, settings);
-    row(1, 4, settings);
-    row(1, 7, settings);
-    row(2, 10, settings);
-    row(3, 10, settings);
-    row(4, 10, settings);
-    row(5, 6, settings);
-    settings[Language] = u"English"_s;
-    row(6, 10, settings);
-    row(7, 19, settings);
-    row(7, 27, settings);
-    settings[Model] = u"Vistar Show - SV500 (Serial)"_s;
-    settings[BaudRate] = u"115200"_s;
-    row(8, 10, settings);
-    row(9, 12, settings);
-    settings[Port] = u"/dev/ttyTest2"_s;
-    row(10, 10, settings);
-    row(11, 4, settings);
-    settings[BaudRate] = u"57600"_s;
-    row(12, 10, settings);
-    // The rest of a number is a number.
-    settings[Address] = u"1.0.0.0"_s;
-    row(13, 1, settings);
-    settings[Address] = u"10.2.0.0"_s;
-    row(14, 1, settings);
-    settings[Address] = u"10.20.3.0"_s;
-    row(15, 1, settings);
-    settings[Address] = u"10.20.30.4"_s;
-    row(16, 1, settings);
-    settings[Address] = u"10.20.30.40"_s;
-    row(17, 10, settings);
-    row(19, 10, settings);
-    row(21, 10, settings);
-    settings[Sent] = u"Dec shown in decimal"_s;
-    row(23, 10, settings);
-}
-
-void tst_config::cutInsideLine()
-{
-    QFETCH(int, number);
-    QFETCH(int, length);
-    QFETCH(QStringList, settings);
-
-    QVERIFY(length < changedLines.at(number - 1).size());
-    QVERIFY(write(path(), fileOf(changedLines.mid(0, number - 1))
-                              + changedLines.at(number - 1).left(length)));
-    const MainWindow window;
-    QCOMPARE(settingsOf(window), settings);
-}
-
-void tst_config::modelWithItsPanels_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("baudRates");
-    QTest::addColumn<QString>("baudRate");
-    QTest::addColumn<int>("idCount");
-    QTest::addColumn<QString>("port"); // text behind the address; empty on a serial model
-    QTest::addColumn<bool>("autoConnectionOffered");
-
-    const QString low = u"9600 19200 38400"_s;
-    const QString all = u"1200 2400 4800 9600 19200 38400 57600 115200"_s;
-    const QString none;
-    const QString video = u"( Port number: 65079 )"_s;
-    QTest::newRow("Tempo Deck") << 0 << low << u"19200"_s << 128 << none << true;
-    QTest::newRow("Show Deck (Gen 2)") << 1 << low << u"19200"_s << 128 << none << true;
-    QTest::newRow("Vistar Show - SV500 (Serial)") << 2 << all << u"115200"_s << 128 << none << true;
-    QTest::newRow("Vistar Show - SV500 (TCP/IP)") << 3 << none << none << 1 << video << true;
-    QTest::newRow("Ampra One") << 4 << u"4800 9600 19200"_s << u"19200"_s << 128 << none << true;
-    QTest::newRow("Pico Deck Gen 2/3") << 5 << low << u"19200"_s << 128 << none << true;
-    QTest::newRow("Sonet A (Serial)") << 6 << u"115200"_s << u"115200"_s << 1 << none << true;
-    QTest::newRow("Sonet A Lite (TCP/IP)")
-        << 7 << none << none << 1 << u"( Port number: 1234 )"_s << false;
-    QTest::newRow("Vistar Home - HV4xx (Serial)") << 8 << all << u"115200"_s << 128 << none << true;
-    QTest::newRow("Vistar Home - HV4xx (TCP/IP)") << 9 << none << none << 1 << video << true;
-    QTest::newRow("HV1xx (Serial) (legacy)")
-        << 10 << u"19200"_s << u"19200"_s << 128 << none << true;
-    QTest::newRow("HV1xx (TCP/IP) (legacy)") << 11 << none << none << 1 << video << true;
-    QTest::newRow("Pico Deck (legacy)") << 12 << u"19200"_s << u"19200"_s << 128 << none << true;
-    QTest::newRow("Card Deck HD (legacy)") << 13 << u"9600"_s << u"9600"_s << 128 << none << true;
-    QTest::newRow("HV0xx (legacy)") << 14 << u"19200"_s << u"19200"_s << 128 << none << true;
-}
-
-void tst_config::modelWithItsPanels()
-{
-    QFETCH(int, row);
-    QFETCH(QString, baudRates);
-    QFETCH(QString, port);
-    QFETCH(bool, autoConnectionOffered);
-
-    QVERIFY(write(path(), changedFileWith({{7, QTest::currentDataTag()}, {11, "(default)"}})));
-    const MainWindow window;
-    QCOMPARE(widget<QComboBox>(window, "comboBox_Player")->currentIndex(), row);
-    QCOMPARE(current(window, "comboBox_Player"), QLatin1StringView(QTest::currentDataTag()));
-
-    const auto *list = widget<QComboBox>(window, "comboBox_Baudrate");
-    QStringList offered;
-    for (int i = 0; i < list->count(); ++i)
-        offered.append(list->itemText(i));
-    QCOMPARE(offered.join(u' '), baudRates);
-    QTEST(list->currentText(), "baudRate");
-    QTEST(widget<QComboBox>(window, "comboBox_ID")->count(), "idCount");
-
-    const bool tcp = !port.isEmpty();
-    QCOMPARE(widget<QWidget>(window, "frame_IP")->isHidden(), !tcp);
-    QCOMPARE(widget<QWidget>(window, "frame_Port")->isHidden(), tcp);
-    QCOMPARE(widget<QWidget>(window, "frame_Baudrate")->isHidden(), tcp);
-    QCOMPARE(widget<QWidget>(window, "checkBox_Auto_connection")->isHidden(),
-             !autoConnectionOffered);
-    if (tcp)
-        QCOMPARE(widget<QLabel>(window, "label_IP_Port")->text(), port);
-    // The on-demand model has neither of the two.
-    QCOMPARE(widget<QWidget>(window, "pushButton_Connect")->isEnabled(), autoConnectionOffered);
-    QCOMPARE(widget<QWidget>(window, "frame_Commands")->isEnabled(), !autoConnectionOffered);
+    QVERIFY(!unofferedSheets().isEmpty());
+    for (const ModelSheet &sheet : unofferedSheets()) {
+        QVERIFY(writeSettings(changedFileWith(&SettingsFile::model, sheet.name.toUtf8())));
+        const MainWindow window;
+        QCOMPARE(settingsOf(window).at(Model), newUsersSettings().at(Model));
+    }
 }
 
 void tst_config::modelNameAsPlayerId()
 {
-    // The row of the list moves, the panels stay those of line 7.
-    const QByteArray file = changedFileWith({{20, "Ampra One"}});
+    // The row of the list moves; the panels stay those of the model's own line.
+    const QStringList rates = [] {
+        MainWindow window;
+        chooseModel(window, serialModel);
+        return itemTexts(window, "comboBox_Baudrate");
+    }();
+    const SettingsFile file = changedFileWith(&SettingsFile::playerId, "Ampra One"_ba);
     const QStringList settings = with(changedSettings(), {{Model, u"Ampra One"_s}});
-    QVERIFY(write(path(), file));
+    QVERIFY(writeSettings(file));
     {
         const MainWindow window;
         QCOMPARE(settingsOf(window), settings);
-        QCOMPARE(widget<QComboBox>(window, "comboBox_Baudrate")->count(), 8);
+        QCOMPARE(itemTexts(window, "comboBox_Baudrate"), rates);
         // This amplifier has no requests and no firmware version; the video player has requests.
         QVERIFY(widget<QComboBox>(window, "comboBox_Request")->count() > 0);
         QVERIFY(!widget<QWidget>(window, "frame_Request")->isHidden());
         // The language comes last, and the note with it.
         QCOMPARE(widget<QLabel>(window, "label_Comments")->text(), QString());
     }
-    QCOMPARE(linesOf(path()), changedFileWith({{7, "Ampra One"}}).split('\n'));
+    QCOMPARE(savedLines(), linesOf(changedFileWith(&SettingsFile::model, "Ampra One"_ba)));
 
-    QFile::remove(path());
+    QFile::remove(settingsPath());
     MainWindow window;
-    QVERIFY(write(path(), file));
-    window.loadConfig(path());
+    QVERIFY(writeSettings(file));
+    window.loadConfig(settingsPath());
     QCOMPARE(settingsOf(window), settings);
-    QCOMPARE(widget<QComboBox>(window, "comboBox_Baudrate")->count(), 8);
+    QCOMPARE(itemTexts(window, "comboBox_Baudrate"), rates);
     QVERIFY(
         widget<QLabel>(window, "label_Comments")->text().contains(u"firmware 1.11 or higher"_s));
 
-    // A name on that line moves the row also when line 7 names no model.
-    QVERIFY(write(path(), changedFileWith({{7, "none"}, {20, "Sonet A Lite (TCP/IP)"}})));
-    window.loadConfig(path());
-    QCOMPARE(current(window, "comboBox_Player"), u"Sonet A Lite (TCP/IP)"_s);
+    // A name on that line moves the row also when the model's own line names no model.
+    SettingsFile noModel = changedFileWith(&SettingsFile::model, "none"_ba);
+    noModel.playerId = onDemandModel.toUtf8();
+    QVERIFY(writeSettings(noModel));
+    window.loadConfig(settingsPath());
+    QCOMPARE(current(window, "comboBox_Player"), onDemandModel);
     QVERIFY(widget<QWidget>(window, "frame_IP")->isHidden());
-}
-
-void tst_config::baudRateOfAnotherModel()
-{
-    // Looked up in the list of the file's model, which is applied first.
-    QVERIFY(write(path(), changedFileWith({{7, "Tempo Deck"}, {11, "38400"}})));
-    {
-        const MainWindow window;
-        QCOMPARE(current(window, "comboBox_Baudrate"), u"38400"_s);
-    }
-    QVERIFY(write(path(), changedFileWith({{7, "Tempo Deck"}, {11, "57600"}})));
-    {
-        const MainWindow window;
-        QCOMPARE(current(window, "comboBox_Baudrate"), u"19200"_s);
-    }
-    QVERIFY(write(path(), changedFileWith({{11, "38400"}})));
-    {
-        const MainWindow window;
-        QCOMPARE(current(window, "comboBox_Baudrate"), u"38400"_s);
-        QCOMPARE(widget<QComboBox>(window, "comboBox_Baudrate")->currentIndex(), 5);
-    }
-    QVERIFY(write(path(), changedFileWith({{7, "Vistar Show - SV500 (TCP/IP)"}})));
-    {
-        const MainWindow window;
-        QCOMPARE(current(window, "comboBox_Baudrate"), QString());
-    }
-    QCOMPARE(linesOf(path()).at(10), "(default)"_ba);
 }
 
 void tst_config::languageIsAppliedByTheConstructor()
@@ -1091,8 +711,8 @@ void tst_config::languageIsAppliedByTheConstructor()
     {
         MainWindow window;
         QCOMPARE(widget<QLabel>(window, "label_Player")->text(), english);
-        QVERIFY(write(path(), changedFileWith({{5, "French"}})));
-        window.loadConfig(path());
+        QVERIFY(writeSettings(changedFileWith(&SettingsFile::language, "French"_ba)));
+        window.loadConfig(settingsPath());
         QVERIFY(widget<QAction>(window, "action_French")->isChecked());
         QCOMPARE(widget<QLabel>(window, "label_Player")->text(), english);
         QCOMPARE(widget<QLabel>(window, "label_Comments")->text().left(12), u"All commands"_s);
@@ -1108,12 +728,12 @@ void tst_config::languageIsAppliedByTheConstructor()
         QCOMPARE(widget<QLabel>(window, "label_Player")->text(), english);
         QCOMPARE(window.windowTitle(), u"Tessaly 1.2.8.0"_s);
     }
-    QCOMPARE(linesOf(path()).at(4), "English"_ba);
+    QCOMPARE(savedLines().at(4), "English"_ba);
 }
 
 void tst_config::sentBytesInTheRestoredForm()
 {
-    QVERIFY(write(path(), fileOf(changedLines)));
+    QVERIFY(writeSettings(changedFile));
     {
         MainWindow window;
         window.showSentBytes(0x85, 0x02, "\x01"_ba);
@@ -1122,7 +742,7 @@ void tst_config::sentBytesInTheRestoredForm()
         QCOMPARE(widget<QLabel>(window, "label_Bytes_Sended")->text().trimmed(), u"133 2 1"_s);
     }
     // A file that says nothing of it leaves the hexadecimal form of every start.
-    QVERIFY(write(path(), changedFileWith({{22, "(default)"}})));
+    QVERIFY(writeSettings(changedFileWith(&SettingsFile::sentForm, "(default)"_ba)));
     const MainWindow window;
     QVERIFY(sentBytesShownInHex);
 }
@@ -1130,7 +750,7 @@ void tst_config::sentBytesInTheRestoredForm()
 void tst_config::emptyPath()
 {
     const auto removal = qScopeGuard([] { QFile::remove(pathBesideProgram()); });
-    QVERIFY(write(pathBesideProgram(), fileOf(changedLines)));
+    QVERIFY(writeFile(pathBesideProgram(), changedFile.bytes()));
     {
         MainWindow window;
         QCOMPARE(settingsOf(window), newUsersSettings());
@@ -1138,17 +758,19 @@ void tst_config::emptyPath()
         QCOMPARE(settingsOf(window), changedSettings());
         widget<QSpinBox>(window, "spinBox_IP_4")->setValue(99);
         window.saveConfig(QString());
-        QCOMPARE(read(pathBesideProgram()), changedFileWith({{16, "99"}}));
+        QCOMPARE(readFile(pathBesideProgram()),
+                 changedFileWith(&SettingsFile::address, {"10", "20", "30", "99"}).bytes());
         QCOMPARE(widget<QTextEdit>(window, "textEdit_Data")->toPlainText(),
                  pathBesideProgram() + u"(before save)\n"_s + pathBesideProgram()
                      + u"(after save)"_s);
-        QVERIFY(!QFile::exists(path()));
+        QVERIFY(!QFile::exists(settingsPath()));
 
         widget<QSpinBox>(window, "spinBox_IP_4")->setValue(98);
         configFilePath.clear();
     }
-    QCOMPARE(read(pathBesideProgram()), changedFileWith({{16, "98"}}));
-    QVERIFY(!QFile::exists(path()));
+    QCOMPARE(readFile(pathBesideProgram()),
+             changedFileWith(&SettingsFile::address, {"10", "20", "30", "98"}).bytes());
+    QVERIFY(!QFile::exists(settingsPath()));
 
     QVERIFY(QFile::remove(pathBesideProgram()));
     MainWindow window;
@@ -1158,8 +780,8 @@ void tst_config::emptyPath()
 
 void tst_config::traceOfSaving()
 {
-    const QString good = folder() + u"/Other.cfg"_s;
-    const QString bad = folder() + u"/missing/Other.cfg"_s;
+    const QString good = settingsFolder() + u"/Other.cfg"_s;
+    const QString bad = settingsFolder() + u"/missing/Other.cfg"_s;
 
     MainWindow window;
     const auto *field = widget<QTextEdit>(window, "textEdit_Data");
@@ -1175,80 +797,80 @@ void tst_config::traceOfSaving()
     QCOMPARE(field->toPlainText(),
              good + u"(before save)\n"_s + good + u"(after save)\n"_s + bad + u"(before save)"_s);
     // The file named is the one written, the window's own stays alone.
-    QVERIFY(!QFile::exists(path()));
+    QVERIFY(!QFile::exists(settingsPath()));
 }
 
 void tst_config::traceInTheDestructor()
 {
     auto window = std::make_unique<MainWindow>();
     widget<QTextEdit>(*window, "textEdit_Data")->setPlainText(u"received"_s);
-    QCOMPARE(lastWords(std::move(window)),
-             u"received\n"_s + path() + u"(before save)\n"_s + path() + u"(after save)"_s);
+    QCOMPARE(lastWords(std::move(window)), u"received\n"_s + settingsPath() + u"(before save)\n"_s
+                                               + settingsPath() + u"(after save)"_s);
 }
 
 void tst_config::readOnlyFolder()
 {
-    QVERIFY(QFile::setPermissions(folder(), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(QFile::setPermissions(settingsFolder(), QFile::Permissions::fromInt(0x5555)));
     {
         const NobodysFiles restriction;
-        QVERIFY2(!write(path(), {}), "the folder is writable");
+        QVERIFY2(!writeFile(settingsPath(), {}), "the folder is writable");
         auto window = std::make_unique<MainWindow>();
         QCOMPARE(settingsOf(*window), newUsersSettings());
-        QCOMPARE(lastWords(std::move(window)), path() + u"(before save)"_s);
+        QCOMPARE(lastWords(std::move(window)), settingsPath() + u"(before save)"_s);
     }
-    QVERIFY(!QFile::exists(path()));
-    QVERIFY(QFile::setPermissions(folder(), QFile::Permissions::fromInt(0x7755)));
+    QVERIFY(!QFile::exists(settingsPath()));
+    QVERIFY(QFile::setPermissions(settingsFolder(), QFile::Permissions::fromInt(0x7755)));
 }
 
 void tst_config::readOnlyFolderWithFile()
 {
-    QVERIFY(write(path(), fileOf(changedLines)));
-    QVERIFY(QFile::setPermissions(path(), QFile::Permissions::fromInt(0x4444)));
-    QVERIFY(QFile::setPermissions(folder(), QFile::Permissions::fromInt(0x5555)));
+    QVERIFY(writeSettings(changedFile));
+    QVERIFY(QFile::setPermissions(settingsPath(), QFile::Permissions::fromInt(0x4444)));
+    QVERIFY(QFile::setPermissions(settingsFolder(), QFile::Permissions::fromInt(0x5555)));
     {
         const NobodysFiles restriction;
         auto window = std::make_unique<MainWindow>();
         QCOMPARE(settingsOf(*window), changedSettings());
         widget<QSpinBox>(*window, "spinBox_IP_1")->setValue(77);
-        QCOMPARE(lastWords(std::move(window)), path() + u"(before save)"_s);
+        QCOMPARE(lastWords(std::move(window)), settingsPath() + u"(before save)"_s);
     }
-    QCOMPARE(linesOf(path()), fileOf(changedLines).split('\n'));
-    QVERIFY(QFile::setPermissions(folder(), QFile::Permissions::fromInt(0x7755)));
+    QCOMPARE(savedLines(), linesOf(changedFile));
+    QVERIFY(QFile::setPermissions(settingsFolder(), QFile::Permissions::fromInt(0x7755)));
 }
 
 void tst_config::unreadableFile()
 {
-    QVERIFY(write(path(), fileOf(changedLines)));
-    QVERIFY(QFile::setPermissions(path(), {}));
+    QVERIFY(writeSettings(changedFile));
+    QVERIFY(QFile::setPermissions(settingsPath(), {}));
     {
         const NobodysFiles restriction;
-        QVERIFY2(read(path()) == "(no file)", "the file is readable");
+        QVERIFY2(readFile(settingsPath()) == "(no file)", "the file is readable");
         const MainWindow window;
         QCOMPARE(settingsOf(window), newUsersSettings());
     }
-    QVERIFY(QFile::setPermissions(path(), QFile::Permissions::fromInt(0x6644)));
-    QCOMPARE(linesOf(path()), fileOf(changedLines).split('\n'));
+    QVERIFY(QFile::setPermissions(settingsPath(), QFile::Permissions::fromInt(0x6644)));
+    QCOMPARE(savedLines(), linesOf(changedFile));
 }
 
 void tst_config::folderInPlaceOfTheFile()
 {
-    QVERIFY(QDir().mkpath(path()));
+    QVERIFY(QDir().mkpath(settingsPath()));
     auto window = std::make_unique<MainWindow>();
     QCOMPARE(settingsOf(*window), newUsersSettings());
-    QCOMPARE(lastWords(std::move(window)), path() + u"(before save)"_s);
-    QVERIFY(QFileInfo(path()).isDir());
-    QVERIFY(QDir(path()).isEmpty());
+    QCOMPARE(lastWords(std::move(window)), settingsPath() + u"(before save)"_s);
+    QVERIFY(QFileInfo(settingsPath()).isDir());
+    QVERIFY(QDir(settingsPath()).isEmpty());
 }
 
 void tst_config::fullDisk()
 {
     auto window = std::make_unique<MainWindow>();
-    QVERIFY(QFile::link(u"/dev/full"_s, path()));
+    QVERIFY(QFile::link(u"/dev/full"_s, settingsPath()));
     // The file can be opened; what fails is the writing.
     QCOMPARE(lastWords(std::move(window)),
-             path() + u"(before save)\n"_s + path() + u"(after save)"_s);
-    QVERIFY(QFileInfo(path()).isSymLink());
-    QVERIFY(QFile::remove(path()));
+             settingsPath() + u"(before save)\n"_s + settingsPath() + u"(after save)"_s);
+    QVERIFY(QFileInfo(settingsPath()).isSymLink());
+    QVERIFY(QFile::remove(settingsPath()));
 
     const MainWindow next;
     QCOMPARE(settingsOf(next), newUsersSettings());

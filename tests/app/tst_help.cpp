@@ -46,7 +46,6 @@ private slots:
     void initTestCase();
     void urls_data();
     void urls();
-    void eachTriggerOpensOnce();
     void failingOpenerIsSilent_data();
     void failingOpenerIsSilent();
 };
@@ -103,20 +102,6 @@ void tst_Help::urls()
     QVERIFY(opener.urls.constFirst().isValid());
     QCOMPARE(opener.urls.constFirst().toString(), text);
     QCOMPARE(opener.urls.constFirst().toEncoded(), encoded);
-}
-
-void tst_Help::eachTriggerOpensOnce()
-{
-    const Opener opener;
-    const ConsoleWindow console;
-    for (int round = 0; round < 2; ++round) {
-        console.find<QAction>("action_Website")->trigger();
-        console.find<QAction>("action_Contact_Technical_Support")->trigger();
-    }
-    QStringList schemes;
-    for (const QUrl &url : opener.urls)
-        schemes.append(url.scheme());
-    QCOMPARE(schemes, QStringList({u"https"_s, u"mailto"_s, u"https"_s, u"mailto"_s}));
 }
 
 void tst_Help::failingOpenerIsSilent_data()

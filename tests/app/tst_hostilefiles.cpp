@@ -3,17 +3,17 @@
 
 #include "app/applicationobjects.h"
 #include "app/mainwindow.h"
+#include "tests/app/windowfiles.h"
 #include "tests/support/folders.h"
+#include "tests/support/modelsheets.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/settingsfile.h"
 #include "tests/support/testmain.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLocalServer>
 #include <QSpinBox>
@@ -43,33 +43,16 @@ constexpr qint64 memoryLimit = 640 * mebibyte; // what was given back is kept fo
 constexpr qint64 memoryLimit = 48 * mebibyte;
 #endif
 
-QString folder()
+bool writeLong(const QString &path, const QByteArray &bytes, qint64 size)
 {
-    return qEnvironmentVariable("XDG_DATA_HOME") + u"/Ambrette/Tessaly"_s;
-}
-
-QString path()
-{
-    return folder() + u"/Tessaly.cfg"_s;
-}
-
-bool write(const QString &name, const QByteArray &bytes, qint64 size = 0)
-{
-    QFile file(name);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush()
-           && (size == 0 || file.resize(size)); // the rest are zeros that take no room on the disk
-}
-
-QByteArray read(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(no file)"_ba;
+    // The rest are zeros that take no room on the disk.
+    return writeFile(path, bytes) && QFile::resize(path, size);
 }
 
 /// A line of /proc/self/status, in bytes.
 qint64 memory(QByteArrayView name)
 {
-    const QByteArrayList lines = read(u"/proc/self/status"_s).split('\n');
+    const QByteArrayList lines = readFile(u"/proc/self/status"_s).split('\n');
     for (const QByteArray &line : lines) {
         if (line.startsWith(name))
             return line.simplified().split(' ').value(1).toLongLong() * 1024;
@@ -102,7 +85,7 @@ public:
     NewWindow()
     {
         // The highest value counts from now on.
-        m_isMeasured = write(u"/proc/self/clear_refs"_s, "5");
+        m_isMeasured = writeFile(u"/proc/self/clear_refs"_s, "5");
         m_memory = memory("VmHWM:");
         QElapsedTimer timer;
         timer.start();
@@ -133,10 +116,7 @@ public:
     template<typename T>
     T *widget(const char *name) const
     {
-        T *object = m_window->findChild<T *>(QString::fromLatin1(name));
-        if (!object)
-            qFatal("no %s in the window", name);
-        return object;
+        return ::widget<T>(*m_window, name);
     }
 
     /// Language, model, address, as the window shows them.
@@ -164,12 +144,8 @@ private:
     std::unique_ptr<MainWindow> m_window;
 };
 
-const QByteArray head = "TSY11.00\n"
-                        "Tessaly (Configuration File)\n"
-                        "Generate by: Tessaly 1.2.8.0\n"
-                        "*** Default Language:\n"
-                        "English\n"
-                        "*** Default Device:\n"_ba;
+const SettingsFile chosen{
+    .language = "French", .model = "Ampra One", .address = {"1", "2", "3", "4"}};
 
 /// Puts something there, and returns whether that worked.
 using Placing = bool (*)(const QString &path);
@@ -189,7 +165,7 @@ bool placePipe(const QString &path)
 
 QByteArray frenchFile()
 {
-    return read(programPath(u"LanguageData_fr.qm"_s));
+    return readFile(programPath(u"LanguageData_fr.qm"_s));
 }
 
 } // namespace
@@ -230,8 +206,8 @@ void tst_HostileFiles::initTestCase()
 
 void tst_HostileFiles::init()
 {
-    QVERIFY(QDir(folder()).removeRecursively());
-    QVERIFY(QDir().mkpath(folder()));
+    QVERIFY(QDir(settingsFolder()).removeRecursively());
+    QVERIFY(QDir().mkpath(settingsFolder()));
     m_programFolder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir::setCurrent(m_programFolder->path()));
 }
@@ -247,7 +223,8 @@ void tst_HostileFiles::settings_data()
     QTest::addColumn<Placing>("place");
     QTest::addColumn<QString>("settings");
 
-    const QString initial = u"Default, Tempo Deck, 0.0.0.0"_s;
+    const QString firstModel = modelSheets().constFirst().name;
+    const QString initial = u"Default, "_s + firstModel + u", 0.0.0.0"_s;
     const auto row = [](const char *name, const QString &settings, Placing place) {
         QTest::newRow(name) << place << settings;
     };
@@ -270,30 +247,20 @@ void tst_HostileFiles::settings_data()
     });
     row("folder", initial, [](const QString &path) { return QDir().mkpath(path); });
     row("8 GiB of zeros", initial,
-        [](const QString &path) { return write(path, {}, 8 * gibibyte); });
-    row("8 GiB of zeros behind the head", initial,
-        [](const QString &path) { return write(path, "TSY11.00\n", 8 * gibibyte); });
-    row("8 GiB of zeros in the line of the model", u"English, Tempo Deck, 0.0.0.0"_s,
-        [](const QString &path) { return write(path, head, 8 * gibibyte); });
-    row("8 GiB of zeros behind all lines", u"French, Ampra One, 1.2.3.4"_s,
+        [](const QString &path) { return writeLong(path, {}, 8 * gibibyte); });
+    row("8 GiB of zeros after the head", initial,
+        [](const QString &path) { return writeLong(path, "TSY11.00\n", 8 * gibibyte); });
+    row("8 GiB of zeros in the line of the model", u"French, "_s + firstModel + u", 0.0.0.0"_s,
         [](const QString &path) {
-            return write(
-                path,
-                "TSY11.00\n\n\n\nFrench\n\nAmpra One\n\n\n\n\n\n1\n2\n3\n4\n\n0\n\n\n\n2\n\n"
-                "1\n",
-                8 * gibibyte);
+            return writeLong(path, chosen.lines().first(6).join('\n') + '\n', 8 * gibibyte);
         });
+    row("8 GiB of zeros after all lines", u"French, Ampra One, 1.2.3.4"_s,
+        [](const QString &path) { return writeLong(path, chosen.bytes(), 8 * gibibyte); });
     row("a line of 64 MiB", initial, [](const QString &path) {
-        return write(path, "TSY11.00" + QByteArray(64 * mebibyte, 'A'));
+        return writeFile(path, "TSY11.00" + QByteArray(64 * mebibyte, 'A'));
     });
     row("64 MiB of line ends", initial, [](const QString &path) {
-        return write(path, "TSY11.00\n" + QByteArray(64 * mebibyte, '\n'));
-    });
-    row("zero bytes in every line", initial, [](const QString &path) {
-        return write(path, "TSY11.00\n" + QByteArray("\0\n", 2).repeated(23));
-    });
-    row("invalid UTF-8 in every line", initial, [](const QString &path) {
-        return write(path, "TSY11.00\n" + "\xFF\xC3\x28\xE2\x82\n"_ba.repeated(23));
+        return writeFile(path, "TSY11.00\n" + QByteArray(64 * mebibyte, '\n'));
     });
 }
 
@@ -302,7 +269,7 @@ void tst_HostileFiles::settings()
     QFETCH(Placing, place);
     QFETCH(QString, settings);
 
-    QVERIFY(place(path()));
+    QVERIFY(place(settingsPath()));
     NewWindow window;
     QCOMPARE(window.settings(), settings);
     QCOMPARE(window.end(), QString());
@@ -322,32 +289,32 @@ void tst_HostileFiles::savedIntoPipe()
     QFETCH(Placing, place);
 
     NewWindow window;
-    QVERIFY(place(path()));
+    QVERIFY(place(settingsPath()));
     QCOMPARE(window.end(), QString());
     // It is left as it was.
     struct stat status
     {
     };
-    QCOMPARE(::lstat(QFile::encodeName(path()).constData(), &status), 0);
+    QCOMPARE(::lstat(QFile::encodeName(settingsPath()).constData(), &status), 0);
     QVERIFY(S_ISFIFO(status.st_mode));
 }
 
 void tst_HostileFiles::folderVanishes()
 {
     NewWindow window;
-    QVERIFY(QDir(folder()).removeRecursively());
+    QVERIFY(QDir(settingsFolder()).removeRecursively());
     QCOMPARE(window.end(), QString());
-    QVERIFY(!QFile::exists(folder()));
+    QVERIFY(!QFile::exists(settingsFolder()));
 }
 
 void tst_HostileFiles::folderBecomesFile()
 {
     NewWindow window;
-    QVERIFY(QDir(folder()).removeRecursively());
-    QVERIFY(write(folder(), "a file"));
+    QVERIFY(QDir(settingsFolder()).removeRecursively());
+    QVERIFY(writeFile(settingsFolder(), "a file"));
     QCOMPARE(window.end(), QString());
-    QCOMPARE(read(folder()), "a file"_ba);
-    QVERIFY(QFile::remove(folder()));
+    QCOMPARE(readFile(settingsFolder()), "a file"_ba);
+    QVERIFY(QFile::remove(settingsFolder()));
 }
 
 void tst_HostileFiles::translation_data()
@@ -356,36 +323,36 @@ void tst_HostileFiles::translation_data()
 
     const auto row = [](const char *name, Placing place) { QTest::newRow(name) << place; };
     row("nothing", [](const QString &) { return true; });
-    row("empty", [](const QString &path) { return write(path, {}); });
+    row("empty", [](const QString &path) { return writeFile(path, {}); });
     row("text",
-        [](const QString &path) { return write(path, "<?xml version=\"1.0\"?>\n<TS/>\n"); });
+        [](const QString &path) { return writeFile(path, "<?xml version=\"1.0\"?>\n<TS/>\n"); });
     row("link to zeros without end",
         [](const QString &path) { return QFile::link(u"/dev/zero"_s, path); });
     row("link to itself", [](const QString &path) { return QFile::link(path, path); });
     row("pipe without a writer", placePipe);
     row("pipe with a silent writer", placeIdlePipe);
     row("folder", [](const QString &path) { return QDir().mkpath(path); });
-    row("8 GiB of zeros", [](const QString &path) { return write(path, {}, 8 * gibibyte); });
-    row("head alone", [](const QString &path) { return write(path, frenchFile().first(16)); });
-    row("8 GiB of zeros behind the head",
-        [](const QString &path) { return write(path, frenchFile().first(16), 8 * gibibyte); });
+    row("8 GiB of zeros", [](const QString &path) { return writeLong(path, {}, 8 * gibibyte); });
+    row("head alone", [](const QString &path) { return writeFile(path, frenchFile().first(16)); });
+    row("8 GiB of zeros after the head",
+        [](const QString &path) { return writeLong(path, frenchFile().first(16), 8 * gibibyte); });
     row("first half", [](const QString &path) {
-        return write(path, frenchFile().first(frenchFile().size() / 2));
+        return writeFile(path, frenchFile().first(frenchFile().size() / 2));
     });
     row("all but the last byte",
-        [](const QString &path) { return write(path, frenchFile().chopped(1)); });
+        [](const QString &path) { return writeFile(path, frenchFile().chopped(1)); });
     row("names itself", [](const QString &path) {
-        return write(path, frenchFile() + "\x96\0\0\0\x22\0\0\0\x1E"_ba
-                               + "\0L\0a\0n\0g\0u\0a\0g\0e\0D\0a\0t\0a\0_\0f\0r"_ba);
+        return writeFile(path, frenchFile() + "\x96\0\0\0\x22\0\0\0\x1E"_ba
+                                   + "\0L\0a\0n\0g\0u\0a\0g\0e\0D\0a\0t\0a\0_\0f\0r"_ba);
     });
     row("damaged: source texts longer than the file", [](const QString &path) {
-        return write(path, frenchFile().replace("\x06\0\0"_ba, "\x06\x7F\0"_ba));
+        return writeFile(path, frenchFile().replace("\x06\0\0"_ba, "\x06\x7F\0"_ba));
     });
     row("damaged: contexts longer than the file", [](const QString &path) {
-        return write(path, frenchFile().replace("\x07\0\0"_ba, "\x07\x7F\0"_ba));
+        return writeFile(path, frenchFile().replace("\x07\0\0"_ba, "\x07\x7F\0"_ba));
     });
     row("damaged: texts of negative length", [](const QString &path) {
-        return write(path, frenchFile().replace("\x03\0\0\0"_ba, "\x03\xFF\xFF\xFF"_ba));
+        return writeFile(path, frenchFile().replace("\x03\0\0\0"_ba, "\x03\xFF\xFF\xFF"_ba));
     });
 }
 
@@ -393,10 +360,10 @@ void tst_HostileFiles::translation()
 {
     QFETCH(Placing, place);
 
-    QVERIFY(write(path(), "TSY11.00\n\n\n\nFrench\n"));
+    QVERIFY(writeFile(settingsPath(), "TSY11.00\n\n\n\nFrench\n"));
     QVERIFY(place(m_programFolder->filePath(u"LanguageData_fr.qm"_s)));
     NewWindow window;
-    QCOMPARE(window.settings(), u"French, Tempo Deck, 0.0.0.0"_s);
+    QVERIFY2(window.settings().startsWith("French, "_L1), qPrintable(window.settings()));
     QCOMPARE(window.widget<QLabel>("label_Player")->text(), u"Player:"_s);
     QCOMPARE(window.end(), QString());
 }
@@ -404,8 +371,8 @@ void tst_HostileFiles::translation()
 /// The same file undamaged is used: the rows above do not pass for another reason.
 void tst_HostileFiles::soundTranslation()
 {
-    QVERIFY(write(path(), "TSY11.00\n\n\n\nFrench\n"));
-    QVERIFY(write(m_programFolder->filePath(u"LanguageData_fr.qm"_s), frenchFile()));
+    QVERIFY(writeFile(settingsPath(), "TSY11.00\n\n\n\nFrench\n"));
+    QVERIFY(writeFile(m_programFolder->filePath(u"LanguageData_fr.qm"_s), frenchFile()));
     NewWindow window;
     QCOMPARE(window.widget<QLabel>("label_Player")->text(), u"Lecteur\u00A0:"_s);
     QCOMPARE(window.end(), QString());

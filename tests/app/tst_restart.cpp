@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tessaly developers
 // SPDX-License-Identifier: MIT
 
+#include "tests/app/windowfiles.h"
+#include "tests/support/examplemodels.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/settingsfile.h"
 #include "tests/support/testregistry.h"
 #include "tests/support/virtualscreen.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -21,114 +22,64 @@ namespace {
 
 constexpr int patience = 20'000; // milliseconds; for the start of a program on a busy machine
 
-QByteArray read(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "(no file)"_ba;
-}
-
-bool write(const QString &name, const QByteArray &bytes)
-{
-    QFile file(name);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 /// A difference then names its line.
 QByteArrayList linesOf(const QByteArray &bytes)
 {
     return bytes.split('\n');
 }
 
-QByteArray untouchedFile(const QByteArray &port)
+QByteArrayList linesOf(const SettingsFile &file)
 {
-    return "TSY11.00\n"
-           "Tessaly (Configuration File)\n"
-           "Generate by: Tessaly 1.2.8.0\n"
-           "*** Default Language:\n"
-           "(default)\n"
-           "*** Default Device:\n"
-           "Tempo Deck\n"
-           "*** Default Serial Port:\n"
-           + port
-           + "\n"
-             "*** Default Baudrate:\n"
-             "19200\n"
-             "*** Default IP Address:\n"
-             "0\n"
-             "0\n"
-             "0\n"
-             "0\n"
-             "*** Default Auto-connection:\n"
-             "0\n"
-             "*** Default Player ID:\n"
-             "0\n"
-             "*** Default Command Bytes Sent Setting:\n"
-             "2\n"
-             "*** Default Data Received Setting:\n"
-             "1\n";
+    return linesOf(file.bytes());
 }
 
-QByteArray editedFile(const QByteArray &port, const QByteArray &playerId)
+/// What the program writes when its user changes nothing.
+SettingsFile untouchedFile(const QByteArray &port)
 {
-    return "TSY11.00\n"
-           "Tessaly (Configuration File)\n"
-           "Generate by: Tessaly 1.2.8.0\n"
-           "*** Default Language:\n"
-           "French\n"
-           "*** Default Device:\n"
-           "Vistar Home - HV4xx (Serial)\n"
-           "*** Default Serial Port:\n"
-           + port
-           + "\n"
-             "*** Default Baudrate:\n"
-             "38400\n"
-             "*** Default IP Address:\n"
-             "192\n"
-             "168\n"
-             "0\n"
-             "255\n"
-             "*** Default Auto-connection:\n"
-             "1\n"
-             "*** Default Player ID:\n"
-           + playerId
-           + "\n"
-             "*** Default Command Bytes Sent Setting:\n"
-             "3\n"
-             "*** Default Data Received Setting:\n"
-             "2\n";
+    const ModelSheet &sheet = modelSheets().constFirst();
+    return {.model = sheet.name.toUtf8(),
+            .port = port,
+            .baudRate = QByteArray::number(sheet.defaultBaudRate),
+            .playerId = "0",
+            .sentForm = "2",
+            .dataForm = "1"};
 }
 
-QByteArray typedFile(const QByteArray &port, const QByteArray &language)
+SettingsFile editedFile(const QByteArray &port, const QByteArray &playerId)
 {
-    return "TSY11.00\n"
-           "Tessaly (Configuration File)\n"
-           "Generate by: Tessaly 1.2.8.0\n"
-           "*** Default Language:\n"
-           + language
-           + "\n"
-             "*** Default Device:\n"
-             "Vistar Home - HV4xx (Serial)\n"
-             "*** Default Serial Port:\n"
-           + port
-           + "\n"
-             "*** Default Baudrate:\n"
-             "9600\n"
-             "*** Default IP Address:\n"
-             "192\n"
-             "168\n"
-             "7\n"
-             "255\n"
-             "*** Default Auto-connection:\n"
-             "0\n"
-             "*** Default Player ID:\n"
-             "0\n"
-             "*** Default Command Bytes Sent Setting:\n"
-             "2\n"
-             "*** Default Data Received Setting:\n"
-             "1\n";
+    return {.language = "French",
+            .model = serialModel.toUtf8(),
+            .port = port,
+            .baudRate = "38400",
+            .address = {"192", "168", "0", "255"},
+            .autoConnection = "1",
+            .playerId = playerId,
+            .sentForm = "3",
+            .dataForm = "2"};
 }
 
-QStringList times(int count, const QString &key)
+SettingsFile typedFile(const QByteArray &port, const QByteArray &language)
+{
+    return {.language = language,
+            .model = serialModel.toUtf8(),
+            .port = port,
+            .baudRate = "9600",
+            .address = {"192", "168", "7", "255"},
+            .playerId = "0",
+            .sentForm = "2",
+            .dataForm = "1"};
+}
+
+/// In the list of models.
+qsizetype rowOf(const QString &model)
+{
+    QStringList names;
+    for (const ModelSheet &sheet : modelSheets())
+        names.append(sheet.name);
+    return names.indexOf(model);
+}
+
+QStringList times(qsizetype count, const QString &key)
 {
     return QStringList(count, key);
 }
@@ -150,7 +101,6 @@ private slots:
     void typedSettings();
     void fileMenu_data();
     void fileMenu();
-    void untouchedTwice();
     void fileOfAnotherProgram();
     void pipeInPlaceOfTheFile();
     void fileWithoutEnd();
@@ -262,16 +212,19 @@ void tst_restart::twoStarts()
     startProgram();
     if (QTest::currentTestFailed())
         return;
+    QVERIFY(typeKeys({u"ctrl+5"_s})); // not connected: sends nothing
+    QVERIFY(!QFile::exists(path()));
     endProgram();
     if (QTest::currentTestFailed())
         return;
+    QVERIFY(m_peer->received().isEmpty());
     // A machine with serial ports of its own lists them first.
-    const QByteArray firstPort = linesOf(read(path())).value(8);
+    const QByteArray firstPort = linesOf(readFile(path())).value(8);
     const QByteArray port = m_peer->portName().toLatin1();
     QVERIFY2(firstPort == port || firstPort.startsWith("tty"), firstPort.constData());
-    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(firstPort)));
+    QCOMPARE(linesOf(readFile(path())), linesOf(untouchedFile(firstPort)));
 
-    QVERIFY(write(path(), editedFile(port, "12")));
+    QVERIFY(writeFile(path(), editedFile(port, "12").bytes()));
     startProgram();
     if (QTest::currentTestFailed())
         return;
@@ -281,13 +234,13 @@ void tst_restart::twoStarts()
     endProgram();
     if (QTest::currentTestFailed())
         return;
-    QCOMPARE(linesOf(read(path())), linesOf(editedFile(port, "0")));
+    QCOMPARE(linesOf(readFile(path())), linesOf(editedFile(port, "0")));
 
     startProgram();
     if (QTest::currentTestFailed())
         return;
     endProgram();
-    QCOMPARE(linesOf(read(path())), linesOf(editedFile(port, "0")));
+    QCOMPARE(linesOf(readFile(path())), linesOf(editedFile(port, "0")));
 }
 
 void tst_restart::typedSettings()
@@ -299,20 +252,21 @@ void tst_restart::typedSettings()
         return;
     // The list of models has the focus first. The address can be typed for a TCP model only, port
     // and speed for a serial one only. A lost key shows in the file.
-    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(9, u"Down"_s) + QStringList{u"Tab"_s}
-                     + QStringList{u"1"_s, u"9"_s, u"2"_s, u"Tab"_s}
+    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(rowOf(tcpModel), u"Down"_s)
+                     + QStringList{u"Tab"_s} + QStringList{u"1"_s, u"9"_s, u"2"_s, u"Tab"_s}
                      + QStringList{u"1"_s, u"6"_s, u"8"_s, u"Tab"_s} + QStringList{u"7"_s, u"Tab"_s}
                      + QStringList{u"2"_s, u"5"_s, u"5"_s} + times(4, u"shift+Tab"_s)));
     // TESSALY_EXTRA_PORTS comes last in the list of ports.
-    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(8, u"Down"_s)
-                     + QStringList{u"Tab"_s, u"End"_s, u"Tab"_s, u"Home"_s} + times(3, u"Down"_s)));
+    QVERIFY(typeKeys(QStringList{u"Home"_s} + times(rowOf(serialModel), u"Down"_s)
+                     + QStringList{u"Tab"_s, u"End"_s, u"Tab"_s, u"Home"_s}
+                     + times(sheetOf(serialModel).baudRates.indexOf(9600), u"Down"_s)));
     // From the top of the menu, Up goes round to its last entry.
     QVERIFY(typeKeys({u"alt+l"_s, u"Up"_s, u"Return"_s}));
     QVERIFY(!QFile::exists(path()));
     endProgram();
     if (QTest::currentTestFailed())
         return;
-    QCOMPARE(linesOf(read(path())), linesOf(typedFile(port, "French")));
+    QCOMPARE(linesOf(readFile(path())), linesOf(typedFile(port, "French")));
 
     startProgram();
     if (QTest::currentTestFailed())
@@ -321,7 +275,7 @@ void tst_restart::typedSettings()
     endProgram({u"alt+f"_s, u"q"_s});
     if (QTest::currentTestFailed())
         return;
-    QCOMPARE(linesOf(read(path())), linesOf(typedFile(port, "French")));
+    QCOMPARE(linesOf(readFile(path())), linesOf(typedFile(port, "French")));
 }
 
 void tst_restart::fileMenu_data()
@@ -330,8 +284,7 @@ void tst_restart::fileMenu_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<bool>("ends");
 
-    // The rows that end show that Alt+F does open the menu of the rows that do not.
-    QTest::newRow("French: Q of Quitter") << "French"_ba << u"q"_s << true;
+    // The row that ends, and typedSettings(), show that Alt+F does open the menu of the others.
     QTest::newRow("French: no Exit") << "French"_ba << u"e"_s << false;
     QTest::newRow("English: E of Exit") << "English"_ba << u"e"_s << true;
     QTest::newRow("English: no Quitter") << "English"_ba << u"q"_s << false;
@@ -343,8 +296,7 @@ void tst_restart::fileMenu()
     QFETCH(const QString, key);
     QFETCH(const bool, ends);
 
-    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
-    QVERIFY(write(path(), typedFile(m_peer->portName().toLatin1(), language)));
+    QVERIFY(writeFile(path(), typedFile(m_peer->portName().toLatin1(), language).bytes()));
     startProgram();
     if (QTest::currentTestFailed())
         return;
@@ -354,44 +306,25 @@ void tst_restart::fileMenu()
     }
 
     // One Escape for the menu, one for its bar. The next model in the file then shows that the
-    // program lived on behind the key.
+    // program lived on after the key.
     QVERIFY(typeKeys({u"alt+f"_s, key, u"Escape"_s, u"Escape"_s, u"Down"_s}));
     endProgram();
     if (QTest::currentTestFailed())
         return;
-    QCOMPARE(linesOf(read(path())).value(4), language);
-    QCOMPARE(linesOf(read(path())).value(6), "Vistar Home - HV4xx (TCP/IP)"_ba);
-}
-
-void tst_restart::untouchedTwice()
-{
-    QByteArray first;
-    for (int start = 0; start < 2; ++start) {
-        startProgram();
-        if (QTest::currentTestFailed())
-            return;
-        QVERIFY(typeKeys({u"ctrl+5"_s})); // not connected: sends and saves nothing
-        if (start == 0)
-            QVERIFY(!QFile::exists(path()));
-        endProgram();
-        if (QTest::currentTestFailed())
-            return;
-        if (start == 0)
-            first = read(path());
-        QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(first).value(8))));
-    }
-    QVERIFY(m_peer->received().isEmpty());
+    QCOMPARE(linesOf(readFile(path())).value(4), language);
+    QCOMPARE(linesOf(readFile(path())).value(6),
+             modelSheets().value(rowOf(serialModel) + 1).name.toUtf8());
 }
 
 void tst_restart::fileOfAnotherProgram()
 {
-    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
-    QVERIFY(write(path(), "TSY12.00\n" + QByteArray(100'000, '\xFF')));
+    QVERIFY(writeFile(path(), "TSY12.00\n" + QByteArray(100'000, '\xFF')));
     startProgram();
     if (QTest::currentTestFailed())
         return;
     endProgram();
-    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(read(path())).value(8))));
+    const QByteArrayList lines = linesOf(readFile(path()));
+    QCOMPARE(lines, linesOf(untouchedFile(lines.value(8))));
 }
 
 void tst_restart::pipeInPlaceOfTheFile()
@@ -406,14 +339,14 @@ void tst_restart::pipeInPlaceOfTheFile()
 
 void tst_restart::fileWithoutEnd()
 {
-    QVERIFY(QDir().mkpath(m_home->filePath(u"Ambrette/Tessaly"_s)));
-    QVERIFY(write(path(), "TSY11.00\n"));
+    QVERIFY(writeFile(path(), "TSY11.00\n"));
     QVERIFY(QFile::resize(path(), qint64(8) << 30)); // zeros that take no room on the disk
     startProgram();
     if (QTest::currentTestFailed())
         return;
     endProgram();
-    QCOMPARE(linesOf(read(path())), linesOf(untouchedFile(linesOf(read(path())).value(8))));
+    const QByteArrayList lines = linesOf(readFile(path()));
+    QCOMPARE(lines, linesOf(untouchedFile(lines.value(8))));
 }
 
 TESSALY_TEST(tst_restart)

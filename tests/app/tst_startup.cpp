@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/applicationobjects.h"
-#include "creationorder.h"
+#include "tests/app/creationorder.h"
+#include "tests/app/windowfiles.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/examplemodels.h"
+#include "tests/support/hexbytes.h"
 #include "tests/support/messageboxcatcher.h"
 #include "tests/support/ptypeer.h"
+#include "tests/support/settingsfile.h"
 #include "tests/support/tcppeer.h"
 #include "tests/support/testmain.h"
 
@@ -13,8 +17,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -23,7 +25,6 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTranslator>
 
@@ -32,8 +33,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr quint16 tcpModelPort = 65079;
 
 /// What main() found before it had done anything.
 struct BeforeMain
@@ -53,18 +52,6 @@ void keepWarnings(QtMsgType /*type*/, const QMessageLogContext & /*context*/,
 {
     warnings.append(message);
 }
-
-/// Makes a folder the place of the user's data for as long as it lives.
-class DataFolder
-{
-public:
-    explicit DataFolder(const QString &path) { qputenv("XDG_DATA_HOME", path.toLocal8Bit()); }
-    ~DataFolder() { qputenv("XDG_DATA_HOME", m_before); }
-    Q_DISABLE_COPY_MOVE(DataFolder)
-
-private:
-    QByteArray m_before = qgetenv("XDG_DATA_HOME");
-};
 
 QStringList itemTexts(const QComboBox *list)
 {
@@ -129,20 +116,15 @@ class tst_Startup : public QObject
 private slots:
     void objectsExistBeforeMain();
     void objectsAreCreatedInOrder();
-    void constants_data();
-    void constants();
     void identity();
 
     void modelList();
     void firstModelIsApplied();
     void defaults();
     void linkWidgetsAfterStart();
-    void titleAndTextsSurviveTheLanguages();
+    void textsAfterStart();
     void parentIsKept();
     void parentlessWindowIsNotYetShown();
-
-    void configFolderIsCreated();
-    void configFolderThatCannotBeCreated();
 
     void portList();
     void extraPorts();
@@ -183,27 +165,6 @@ void tst_Startup::objectsAreCreatedInOrder()
     QVERIFY(creationPlace(tcpSocket) > creationPlace(serialPort));
 }
 
-void tst_Startup::constants_data()
-{
-    QTest::addColumn<QString>("actual");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("language file prefix") << languageFilePrefix << u"LanguageData_"_s;
-    QTest::newRow("English") << englishLocale.name() << u"en_US"_s;
-    QTest::newRow("French") << frenchLocale.name() << u"fr_FR"_s;
-    QTest::newRow("configuration file suffix") << configFileSuffix << u".cfg"_s;
-    QTest::newRow("configuration format version") << configFormatVersion << u"1.00"_s;
-    QTest::newRow("configuration magic") << configMagic << u"TSY1"_s;
-    QTest::newRow("configuration title suffix") << configTitleSuffix << u"(Configuration File)"_s;
-    QTest::newRow("configuration placeholder") << configPlaceholder << u"(default)"_s;
-}
-
-void tst_Startup::constants()
-{
-    QFETCH(const QString, actual);
-    QTEST(actual, "expected");
-}
-
 void tst_Startup::identity()
 {
     QCOMPARE(QCoreApplication::applicationName(), u"Tessaly"_s);
@@ -214,24 +175,10 @@ void tst_Startup::identity()
 
 void tst_Startup::modelList()
 {
-    const QStringList models{
-        u"Tempo Deck"_s,
-        u"Show Deck (Gen 2)"_s,
-        u"Vistar Show - SV500 (Serial)"_s,
-        u"Vistar Show - SV500 (TCP/IP)"_s,
-        u"Ampra One"_s,
-        u"Pico Deck Gen 2/3"_s,
-        u"Sonet A (Serial)"_s,
-        u"Sonet A Lite (TCP/IP)"_s,
-        u"Vistar Home - HV4xx (Serial)"_s,
-        u"Vistar Home - HV4xx (TCP/IP)"_s,
-        u"HV1xx (Serial) (legacy)"_s,
-        u"HV1xx (TCP/IP) (legacy)"_s,
-        u"Pico Deck (legacy)"_s,
-        u"Card Deck HD (legacy)"_s,
-        u"HV0xx (legacy)"_s,
-    };
-    // A second window fills the list anew, it does not add to the first one's.
+    QStringList models;
+    for (const ModelSheet &sheet : modelSheets())
+        models.append(sheet.name);
+    // A second window fills a list of its own; nothing of the first one is in it.
     for (int i = 0; i < 2; ++i) {
         const ConsoleWindow console;
         const auto *list = console.find<QComboBox>("comboBox_Player");
@@ -247,10 +194,15 @@ void tst_Startup::firstModelIsApplied()
     QVERIFY(!console.find<QWidget>("frame_Port")->isHidden());
     QVERIFY(!console.find<QWidget>("frame_Baudrate")->isHidden());
     QVERIFY(console.find<QWidget>("frame_IP")->isHidden());
-    QCOMPARE(itemTexts(console.find<QComboBox>("comboBox_Baudrate")),
-             QStringList({u"9600"_s, u"19200"_s, u"38400"_s}));
-    QCOMPARE(console.find<QComboBox>("comboBox_Baudrate")->currentText(), u"19200"_s);
-    QCOMPARE(console.find<QComboBox>("comboBox_ID")->count(), 128);
+    const ModelSheet &first = modelSheets().constFirst();
+    QStringList baudRates;
+    for (const qint32 rate : first.baudRates)
+        baudRates.append(QString::number(rate));
+    QCOMPARE(itemTexts(console.find<QComboBox>("comboBox_Baudrate")), baudRates);
+    QCOMPARE(console.find<QComboBox>("comboBox_Baudrate")->currentText(),
+             QString::number(first.defaultBaudRate));
+    QCOMPARE(console.find<QComboBox>("comboBox_ID")->count(),
+             first.highestPlayerId - first.lowestPlayerId + 1);
     QVERIFY(!console.find<QWidget>("pushButton_Play")->isHidden());
     // What this model lacks has been hidden.
     QVERIFY(console.find<QWidget>("pushButton_Pause")->isHidden());
@@ -291,26 +243,13 @@ void tst_Startup::linkWidgetsAfterStart()
     QCOMPARE(boxes.messages.size(), 0);
 }
 
-void tst_Startup::titleAndTextsSurviveTheLanguages()
+void tst_Startup::textsAfterStart()
 {
     const ConsoleWindow console;
     QCOMPARE(console.window.windowTitle(), u"Tessaly 1.2.8.0"_s);
-    // The form's texts are set again behind the defaults, which leave the first of these empty.
+    // The form's texts are set again after the defaults, which leave the first of these empty.
     QCOMPARE(console.text("label_Bytes_Sended"), u"0"_s);
     QCOMPARE(console.text("label_Volume_2"), u"..."_s);
-    for (const char *name : {"action_French", "action_English", "action_Default"}) {
-        console.find<QLabel>("label_Bytes_Sended")->setText(u"83 02 01"_s);
-        console.find<QLabel>("label_Volume_2")->setText(u"31"_s);
-        console.find<QAction>(name)->trigger();
-        QCOMPARE(console.window.windowTitle(), u"Tessaly 1.2.8.0"_s);
-        QCOMPARE(console.text("label_Bytes_Sended"), u"0"_s);
-        QCOMPARE(console.text("label_Volume_2"), u"..."_s);
-    }
-
-    ConsoleWindow renamed;
-    renamed.window.setWindowTitle(u"mine"_s);
-    renamed.find<QAction>("action_French")->trigger();
-    QCOMPARE(renamed.window.windowTitle(), u"mine"_s);
 }
 
 void tst_Startup::parentIsKept()
@@ -327,42 +266,6 @@ void tst_Startup::parentlessWindowIsNotYetShown()
     QCOMPARE(window.parentWidget(), nullptr);
     QVERIFY(!window.isVisible());
     QCOMPARE(window.windowTitle(), u"Tessaly 1.2.8.0"_s);
-}
-
-void tst_Startup::configFolderIsCreated()
-{
-    const QTemporaryDir folder;
-    const QString home = folder.filePath(u"not/there/yet"_s);
-    const DataFolder data(home);
-    // Created with all its parents, and used as it is when it is there.
-    for (int i = 0; i < 2; ++i) {
-        configFilePath.clear();
-        const ConsoleWindow console;
-        QCOMPARE(configFilePath, home + u"/Ambrette/Tessaly/Tessaly.cfg"_s);
-        QVERIFY(QFileInfo(home + u"/Ambrette/Tessaly"_s).isDir());
-    }
-}
-
-void tst_Startup::configFolderThatCannotBeCreated()
-{
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"file"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
-    const DataFolder data(file.fileName());
-    const MessageBoxCatcher boxes;
-    warnings.clear();
-    const auto previous = qInstallMessageHandler(keepWarnings);
-    {
-        const ConsoleWindow console;
-        QCOMPARE(configFilePath, file.fileName() + u"/Ambrette/Tessaly/Tessaly.cfg"_s);
-        QVERIFY(console.window.isVisible());
-        QCOMPARE(console.window.windowTitle(), u"Tessaly 1.2.8.0"_s);
-    }
-    qInstallMessageHandler(previous);
-    QCOMPARE(boxes.messages.size(), 0);
-    QCOMPARE(warnings.filter(u"Ambrette"_s), QStringList());
-    QVERIFY(QFileInfo(file.fileName()).isFile());
 }
 
 void tst_Startup::portList()
@@ -425,6 +328,8 @@ void tst_Startup::emptyCatalogue()
     // The constructor's next steps hold with no model, too.
     console.window.hideCommandPanels();
     console.window.on_comboBox_Player_activated(0);
+    QVERIFY(writeFile(configFilePath, SettingsFile{.model = serialModel.toUtf8()}.bytes()));
+    console.window.loadConfig(configFilePath);
     console.window.applyLanguage();
     console.window.onSocketConnected();
     console.window.on_pushButton_Connect_clicked();
@@ -441,7 +346,7 @@ void tst_Startup::defaultsStepRestores()
     sentBytesShownInHex = false;
     console.find<QRadioButton>("radioButton_Data_Dec")->setChecked(true);
     console.find<QLabel>("label_Bytes_Sended")->setText(u"83 02 01"_s);
-    console.find<QComboBox>("comboBox_Player")->setCurrentIndex(7);
+    console.find<QComboBox>("comboBox_Player")->setCurrentText(tcpModel);
 
     QVERIFY(QMetaObject::invokeMethod(&console.window, "applyStartupDefaults"));
     QVERIFY(console.find<QAction>("action_Default")->isChecked());
@@ -466,9 +371,9 @@ void tst_Startup::serialArrivalsReachTheWindow()
 
 void tst_Startup::socketSignalsReachTheWindow()
 {
-    TcpPeer peer(tcpModelPort);
+    TcpPeer peer(portOf(tcpModel));
     ConsoleWindow console;
-    console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (TCP/IP)"_s));
+    console.selectModel(console.rowOfModel(tcpModel));
     QVERIFY(console.find<QWidget>("label_Connection_Message")->isHidden());
     console.setAddress(TcpPeer::address().toString());
     console.click("pushButton_Connect");
@@ -528,39 +433,40 @@ void tst_Startup::shortcutList()
 void tst_Startup::shortcutsTriggerTheirSlots_data()
 {
     QTest::addColumn<Shortcut>("shortcut");
-    QTest::addColumn<bool>("panelsHidden");
-
-    for (const Shortcut &shortcut : shortcuts) {
-        QTest::newRow(shortcut.name) << shortcut << false;
-        QTest::addRow("%s, panels hidden", shortcut.name) << shortcut << true;
-    }
+    for (const Shortcut &shortcut : shortcuts)
+        QTest::newRow(shortcut.name) << shortcut;
 }
 
 void tst_Startup::shortcutsTriggerTheirSlots()
 {
     QFETCH(const Shortcut, shortcut);
-    QFETCH(const bool, panelsHidden);
     PtyPeer peer;
     ConsoleWindow console;
-    console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
+    console.selectModel(console.rowOfModel(serialModel));
     console.connectSerial(peer);
-    {
-        auto *slider = console.find<QSlider>("horizontalSlider_Volume");
-        const QSignalBlocker blocker(slider);
-        slider->setValue(50);
-    }
-    if (panelsHidden)
-        console.window.hideCommandPanels();
     console.window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&console.window));
 
-    // keyClick() does not know all of these keys.
-    QTest::sendKeyEvent(QTest::Click, &console.window, shortcut.key, QString(), shortcut.modifiers);
-    QTRY_COMPARE(peer.received().toHex(' '), QByteArray(shortcut.frame));
-    QVERIFY(peer.send("x"_ba));
-    QTRY_COMPARE(receivedText, u"x"_s);
-    // Nothing has followed in the meantime.
-    QCOMPARE(peer.received().toHex(' '), QByteArray(shortcut.frame));
+    // Hidden panels do not stop a shortcut.
+    for (const bool panelsAreHidden : {false, true}) {
+        {
+            auto *slider = console.find<QSlider>("horizontalSlider_Volume");
+            const QSignalBlocker blocker(slider);
+            slider->setValue(50);
+        }
+        if (panelsAreHidden)
+            console.window.hideCommandPanels();
+        peer.takeReceived();
+        receivedText.clear();
+        // keyClick() does not know all of these keys.
+        QTest::sendKeyEvent(QTest::Click, &console.window, shortcut.key, QString(),
+                            shortcut.modifiers);
+        QTRY_COMPARE(hexBytes(peer.received()), QByteArray(shortcut.frame));
+        QVERIFY(peer.send("x"_ba));
+        QTRY_COMPARE(receivedText, u"x"_s);
+        // Nothing has followed in the meantime.
+        QCOMPARE(hexBytes(peer.received()), QByteArray(shortcut.frame));
+    }
 }
 
 void tst_Startup::exitClosesTheWindow()
@@ -574,11 +480,11 @@ void tst_Startup::exitClosesTheWindow()
 void tst_Startup::goneWindowLeavesTheLinksOpen()
 {
     const PtyPeer serialPeer;
-    const TcpPeer tcpPeer(tcpModelPort);
+    const TcpPeer tcpPeer(portOf(tcpModel));
     {
         MainWindow window;
         QVERIFY(window.openSerialPort(9600, serialPeer.portName()));
-        window.connectTcpSocket(TcpPeer::address().toString(), tcpModelPort);
+        window.connectTcpSocket(TcpPeer::address().toString(), portOf(tcpModel));
         QTRY_COMPARE(tcpSocket->state(), QAbstractSocket::ConnectedState);
     }
     QVERIFY(serialPort->isOpen());
