@@ -3,11 +3,11 @@
 
 #include "app/translationfile.h"
 #include "tests/support/folders.h"
+#include "tests/support/languagefiles.h"
 #include "tests/support/testregistry.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QScopeGuard>
@@ -109,9 +109,9 @@ void tst_TranslationFile::crafted_data()
         hashes("HASH\0\0\0"_ba + static_cast<char>(message.size())) + messages(message));
     row("offset before the end", true,
         hashes("HASH\0\0\0"_ba + static_cast<char>(message.size() - 1)) + messages(message));
-    row("offset far behind the end", false, hashes("HASH\x7F\0\0\0"_ba) + messages(message));
+    row("offset far after the end", false, hashes("HASH\x7F\0\0\0"_ba) + messages(message));
     row("negative offset", false, hashes("HASH\xFF\xFF\xFF\xFF"_ba) + messages(message));
-    row("second offset behind the end", false,
+    row("second offset after the end", false,
         hashes(entryAt0 + "HASH\0\0\1\0"_ba) + messages(message));
     row("hash cut", false, hashes(entryAt0.chopped(1)) + messages(message));
     row("hash without offset", false, hashes(entryAt0.chopped(4)) + messages(message));
@@ -131,7 +131,7 @@ void tst_TranslationFile::crafted_data()
         hashes(entryAt0) + messages(message) + dependencies("\0\0\0\2\0a"_ba));
     row("another translation, named first", false,
         dependencies("\0\0\0\2\0a"_ba) + hashes(entryAt0) + messages(message));
-    row("another translation behind the end", true,
+    row("another translation after the end", true,
         hashes(entryAt0) + messages(message) + "\0\0\0\0\0"_ba + dependencies("\0\0\0\2\0a"_ba));
 
     row("contexts", true, contexts("\0\2\0\0\0\1\0\0\4Main\0"_ba));
@@ -151,11 +151,9 @@ void tst_TranslationFile::crafted()
 
 void tst_TranslationFile::shipped()
 {
-    const QDir folder = QFileInfo(frenchPath()).dir();
-    const QStringList names = folder.entryList({u"LanguageData_*.qm"_s});
-    QCOMPARE(names.size(), 6);
-    for (const QString &name : names)
-        QVERIFY2(isSoundTranslationFile(folder.filePath(name)), qPrintable(name));
+    for (const QString &code : languageCodes())
+        QVERIFY2(isSoundTranslationFile(programPath(u"LanguageData_%1.qm"_s.arg(code))),
+                 qPrintable(code));
 }
 
 void tst_TranslationFile::cut()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "tests/support/folders.h"
+#include "tests/support/languagefiles.h"
 #include "tests/support/testregistry.h"
 
 #include <QFile>
@@ -217,9 +218,9 @@ void tst_Release::everyReasonIsTold()
     QStringList reasons{u"CHANGELOG.md is about 1.2.8.0, CMakeLists.txt about 1.2.9.0"_s,
                         metainfo + " is about 1.2.8.0, CMakeLists.txt about 1.2.9.0"_L1,
                         u"packaging/man/tessaly.1 is about another version"_s};
-    for (const char *code : {"de", "es", "fr", "it", "nl", "pt"}) {
-        reasons.append("translations/LanguageData_"_L1 + QLatin1StringView(code)
-                       + ".ts is not what scripts/translate makes of the program's texts"_L1);
+    for (const QString &code : languageCodes()) {
+        reasons.append(languageFileName(code)
+                       + " is not what scripts/translate makes of the program's texts"_L1);
     }
     expectRefusal(reasons);
 }
