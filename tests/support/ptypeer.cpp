@@ -3,6 +3,8 @@
 
 #include "tests/support/ptypeer.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -11,12 +13,32 @@
 #include <stdlib.h>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A path that no other test has. The system gives the number of a closed pseudo-terminal to the
+/// next one who asks, of any process: under its own name, a test could meet the lock of another
+/// test's port, or its device.
+QString newPortName()
+{
+    static const QTemporaryDir folder;
+    static int count = 0;
+    // Other users may walk through it, as through the folder of the devices.
+    if (count == 0)
+        QFile::setPermissions(folder.path(), QFile::Permissions::fromInt(0x7755));
+    return folder.filePath(u"port%1"_s.arg(++count));
+}
+
+} // namespace
+
 PtyPeer::PtyPeer()
     : m_master(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
+    , m_portName(newPortName())
 {
-    if (m_master < 0 || ::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0)
+    if (m_master < 0 || ::grantpt(m_master) != 0 || ::unlockpt(m_master) != 0
+        || !QFile::link(QString::fromLocal8Bit(::ptsname(m_master)), m_portName))
         qFatal("no pseudo-terminal to be had");
-    m_portName = QString::fromLocal8Bit(::ptsname(m_master));
 }
 
 PtyPeer::~PtyPeer()
@@ -53,7 +75,9 @@ bool PtyPeer::send(const QByteArray &bytes)
 
 void PtyPeer::hangUp()
 {
-    if (m_master >= 0)
-        ::close(m_master);
+    if (m_master < 0)
+        return;
+    QFile::remove(m_portName);
+    ::close(m_master);
     m_master = -1;
 }
