@@ -188,16 +188,17 @@ void Walk::request(const UserMove &move)
 void Walk::changePlayer()
 {
     const QList<UserMove> moves = choosingMoves(m_sheet);
-    const auto change = std::ranges::find_if(moves, [](const UserMove &move) {
-        return move.frame.value == "127"_L1 && move.frame.command.id == 11;
+    const int other = m_sheet.highestPlayerId;
+    const auto change = std::ranges::find_if(moves, [other](const UserMove &move) {
+        return move.frame.value == QString::number(other) && move.frame.command.id == 11;
     });
     if (change != moves.cend()) {
         send({*change});
-        m_own = 127;
+        m_own = other;
         send({probe()});
     }
-    QVERIFY(m_desk.console().choose("comboBox_ID", u"127"_s));
-    m_addressed = 127;
+    QVERIFY(m_desk.console().choose("comboBox_ID", QString::number(other)));
+    m_addressed = other;
     send({probe()});
 }
 

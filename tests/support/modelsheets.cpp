@@ -5,6 +5,7 @@
 
 #include "tests/support/folders.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -19,7 +20,7 @@ namespace {
 const QString noModel = u"none"_s;
 const QString notOffered = u"not offered"_s;
 
-/// Reads one file, and ends the program with the place of the first slip.
+/// Reads one file, and ends the program with the position of the first slip.
 class SheetReader
 {
 public:
@@ -30,6 +31,11 @@ public:
 
     ModelSheet read();
     QString predecessor() const { return m_predecessor; }
+    /// File and line of a key in the head.
+    QString positionOf(const QString &key) const
+    {
+        return u"%1:%2"_s.arg(m_path).arg(m_keyLines.value(key));
+    }
 
 private:
     [[noreturn]] void fail(const QString &text) const
@@ -45,6 +51,7 @@ private:
     void readBaudRates();
     void readPlayerIds();
     void readCommand(const QString &line);
+    void checkValues(const QStringList &values) const;
     QByteArray bytes(const QString &text) const;
     void checkFrame(const QByteArray &frame) const;
     void readCatalogueColumn(const QString &column, SheetCommand &command) const;
@@ -53,6 +60,7 @@ private:
     QString m_path;
     int m_line = 0;
     QMap<QString, QString> m_head;
+    QHash<QString, int> m_keyLines;
     QString m_predecessor;
     ModelSheet m_sheet;
 };
@@ -97,6 +105,7 @@ void SheetReader::readHead(const QString &line)
     if (m_head.contains(key))
         fail(u"\"%1\" stands here for the second time"_s.arg(key));
     m_head.insert(key, value);
+    m_keyLines.insert(key, m_line);
 }
 
 QString SheetReader::take(const QString &key)
@@ -164,6 +173,8 @@ void SheetReader::readBaudRates()
 void SheetReader::readPlayerIds()
 {
     const QStringList ids = take(u"player IDs"_s).split(u" to "_s);
+    if (ids.size() > 2)
+        fail(u"the player IDs are \"LOWEST to HIGHEST\", or one number"_s);
     m_sheet.lowestPlayerId = number(ids.constFirst(), 0, 127);
     m_sheet.highestPlayerId = number(ids.constLast(), m_sheet.lowestPlayerId, 127);
 }
@@ -189,6 +200,7 @@ void SheetReader::readCommand(const QString &line)
     command.id = static_cast<quint32>(number(columns.at(1), 1, 99));
     command.frame = bytes(columns.at(2));
     command.lowest = values.constFirst();
+    checkValues(values);
     checkFrame(command.frame);
     if (hasRange) {
         command.highest = values.constLast();
@@ -198,6 +210,24 @@ void SheetReader::readCommand(const QString &line)
     derive(command);
     readCatalogueColumn(columns.value(5), command);
     m_sheet.commands.append(command);
+}
+
+void SheetReader::checkValues(const QStringList &values) const
+{
+    if (values.size() == 2) {
+        const auto begins = [](const QString &value) { return value.front().isDigit(); };
+        // Contacts, as in "none to 1, 2", are the one kind whose ends differ.
+        if (values.constLast().isEmpty()
+            || (begins(values.constFirst()) && !begins(values.constLast())))
+            fail(u"\"%1\" does not go with \"%2\""_s.arg(values.constLast(), values.constFirst()));
+        return;
+    }
+    // One value without a range is a moment.
+    const QString moment = values.constFirst().section(u" UTC"_s, 0, 0);
+    if (!moment.isEmpty() && !QDate::fromString(moment, u"yyyy-MM-dd"_s).isValid()
+        && !QTime::fromString(moment, u"hh:mm:ss"_s).isValid()
+        && !QDateTime::fromString(moment, u"yyyy-MM-dd hh:mm:ss"_s).isValid())
+        fail(u"\"%1\" is neither a range nor a moment"_s.arg(moment));
 }
 
 /// Bytes such as: 04 00 "cmd" 00
@@ -233,8 +263,8 @@ void SheetReader::checkFrame(const QByteArray &frame) const
         fail(u"the first byte of a Classic frame to player 0 is 80"_s);
 }
 
-/// What the catalogue holds as a rule. Text messages are named by what stands behind their verb;
-/// the catalogue holds that behind the ends of the range, or FF FF.
+/// What the catalogue holds as a rule. What follows the verb names a text message; in the
+/// catalogue, it follows the ends of the range, or FF FF.
 void SheetReader::derive(SheetCommand &command) const
 {
     const qsizetype header = m_sheet.isExtended ? 1 : 2;
@@ -259,15 +289,19 @@ void SheetReader::readCatalogueColumn(const QString &column, SheetCommand &comma
 {
     if (column.isEmpty())
         return;
+    bool hasMax = false;
     for (const QString &part : column.split(u", "_s)) {
         const QString field = part.section(u' ', 0, 0);
         const QByteArray value = bytes(part.section(u' ', 1));
-        if (field == "data"_L1)
+        if (value.isEmpty())
+            fail(u"\"%1\" names no bytes"_s.arg(part));
+        if (field == "data"_L1 && !hasMax)
             command.data = command.dataMax = value;
         else if (field == "dataMax"_L1)
             command.dataMax = value;
         else
-            fail(u"\"%1\" is neither data nor dataMax"_s.arg(field));
+            fail(u"\"%1\" is neither data nor, after it, dataMax"_s.arg(field));
+        hasMax = field == "dataMax"_L1;
     }
 }
 
@@ -278,29 +312,45 @@ public:
     SheetList()
     {
         const QDir folder(sourcePath(u"tests/models"_s));
-        QHash<QString, QString> files;
         for (const QString &name : folder.entryList({u"*.txt"_s}, QDir::Files)) {
             SheetReader reader(folder.filePath(name));
             const ModelSheet sheet = reader.read();
-            if (files.contains(sheet.name))
-                qFatal("%s and %s are both about %s", qPrintable(files.value(sheet.name)),
-                       qPrintable(name), qPrintable(sheet.name));
-            files.insert(sheet.name, name);
-            if (sheet.isOffered)
-                m_followers[reader.predecessor()].append(sheet);
-            else
+            if (m_positions.contains(sheet.name))
+                qFatal("%s: %s has another sheet, see %s",
+                       qPrintable(reader.positionOf(u"model"_s)), qPrintable(sheet.name),
+                       qPrintable(m_positions.value(sheet.name)));
+            m_positions.insert(sheet.name, reader.positionOf(u"after"_s));
+            if (!sheet.isOffered) {
                 unoffered.append(sheet);
+                continue;
+            }
+            m_predecessors.insert(sheet.name, reader.predecessor());
+            m_followers[reader.predecessor()].append(sheet);
         }
         appendFollowers(noModel);
-        if (offered.size() + unoffered.size() != files.size())
-            qFatal("the sheets of %s do not form one list: look at their lines \"after\"",
-                   qPrintable(folder.path()));
+        checkAllFollow();
     }
 
     QList<ModelSheet> offered;
     QList<ModelSheet> unoffered;
 
 private:
+    /// A model that only comes after a missing one is not to blame.
+    void checkAllFollow() const
+    {
+        for (auto it = m_predecessors.cbegin(); it != m_predecessors.cend(); ++it) {
+            QString name = it.value();
+            bool isBroken = name != noModel && !m_predecessors.contains(name);
+            for (qsizetype step = 0; step < m_predecessors.size() && !isBroken; ++step) {
+                isBroken = name == it.key();
+                name = m_predecessors.value(name);
+            }
+            if (isBroken)
+                qFatal("%s: the list that begins after \"none\" does not lead to \"%s\"",
+                       qPrintable(m_positions.value(it.key())), qPrintable(it.value()));
+        }
+    }
+
     qsizetype followersOf(const QString &name) const
     {
         qsizetype count = 0;
@@ -316,9 +366,9 @@ private:
                           [this](const ModelSheet &sheet) { return followersOf(sheet.name); });
         for (qsizetype i = 1; i < followers.size(); ++i) {
             if (followersOf(followers.at(i - 1).name) == followersOf(followers.at(i).name))
-                qFatal("%s and %s both come after \"%s\", and neither before the other",
-                       qPrintable(followers.at(i - 1).fileName),
-                       qPrintable(followers.at(i).fileName), qPrintable(name));
+                qFatal("%s: another model comes after \"%s\", too, see %s",
+                       qPrintable(m_positions.value(followers.at(i).name)), qPrintable(name),
+                       qPrintable(m_positions.value(followers.at(i - 1).name)));
         }
         for (const ModelSheet &sheet : std::as_const(followers)) {
             offered.append(sheet);
@@ -326,7 +376,9 @@ private:
         }
     }
 
+    QMap<QString, QString> m_predecessors; ///< of each model that is offered
     QHash<QString, QList<ModelSheet>> m_followers;
+    QHash<QString, QString> m_positions; ///< of the line "after" of each sheet
 };
 
 const SheetList &sheets()
@@ -357,9 +409,12 @@ QList<int> ModelSheet::playerIdSamples() const
 {
     if (!hasPlayerIds())
         return {lowestPlayerId};
-    QList<int> samples{0, 1, 5, 64, 127};
-    samples.removeIf([this](int id) { return id < lowestPlayerId || id > highestPlayerId; });
-    return samples;
+    QList<int> samples{lowestPlayerId};
+    for (const int id : {1, 5, 64}) {
+        if (id > lowestPlayerId && id < highestPlayerId)
+            samples.append(id);
+    }
+    return samples + QList<int>{highestPlayerId};
 }
 
 QByteArray ModelSheet::addressed(const QByteArray &frame, int playerId) const

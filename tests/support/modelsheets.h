@@ -71,7 +71,7 @@ struct ModelSheet
     /// Such a device is connected to for each command.
     bool connectsOnDemand() const { return isExtended && isTcp; }
     bool hasPlayerIds() const { return highestPlayerId > lowestPlayerId; }
-    /// 0, 1, 5, 64 and 127, or the only ID.
+    /// The only ID, or the lowest, 1, 5, 64 and the highest: of most models, 0 and 127.
     QList<int> playerIdSamples() const;
     /// A frame of the sheet as another player gets it. One of a model without IDs stays as it is.
     QByteArray addressed(const QByteArray &frame, int playerId) const;
