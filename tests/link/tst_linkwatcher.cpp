@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 using namespace std::chrono_literals;
@@ -68,6 +69,7 @@ private slots:
     void failedOpeningReportsNothing();
     void vanishedDeviceIsReportedOnce();
     void vanishedDeviceIsReportedWithoutAnError();
+    void vanishedDeviceIsReportedSoon();
     void serialErrors_data();
     void serialErrors();
     void closedPortIsNotReported();
@@ -246,6 +248,24 @@ void tst_LinkWatcher::vanishedDeviceIsReportedWithoutAnError()
     QCOMPARE(errors.count(), 0);
     QTest::qWait(silence);
     QCOMPARE(links.lost.count(), 1);
+}
+
+void tst_LinkWatcher::vanishedDeviceIsReportedSoon()
+{
+    // A busy machine may delay any report; one in time shows how often the watcher looks.
+    qint64 shortest = std::numeric_limits<qint64>::max(); // in ms
+    for (int device = 0; device < 5 && shortest > 500; ++device) {
+        PtyPeer peer;
+        WatchedLinks links;
+        connect(&links.watcher, &LinkWatcher::linkLost, &links.port, &QSerialPort::close);
+        QVERIFY(links.openPort(peer, QIODevice::WriteOnly));
+        QElapsedTimer time;
+        time.start();
+        peer.hangUp();
+        QTRY_COMPARE_WITH_TIMEOUT(links.lost.count(), 1, 20'000);
+        shortest = std::min(shortest, time.elapsed());
+    }
+    QVERIFY2(shortest <= 500, qPrintable(QString::number(shortest)));
 }
 
 void tst_LinkWatcher::serialErrors_data()

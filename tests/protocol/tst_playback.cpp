@@ -51,6 +51,7 @@ private slots:
     void folderText();
     void folderOfEmptyList();
     void folderShortcutIsLikeTheList();
+    void shortcutsOfHiddenPanels();
 
     void volume_data();
     void volume();
@@ -151,6 +152,16 @@ void tst_Playback::folderShortcutIsLikeTheList()
     QCOMPARE(sent.bytes, "80 01 03"_ba);
     QCOMPARE(sent.shown, u"80 01 03"_s);
     QCOMPARE(window.find<QComboBox>("comboBox_Folder")->currentText(), u"200"_s);
+}
+
+void tst_Playback::shortcutsOfHiddenPanels()
+{
+    LinkedWindow window(classicModel);
+    QCOMPARE(window.type(u"Ctrl+5"_s).bytes, "80 01 05"_ba);
+    window.window.hideCommandPanels();
+    QVERIFY(window.find<QWidget>("frame_Folder")->isHidden());
+    QCOMPARE(window.type(u"Ctrl+5"_s).bytes, "80 01 05"_ba);
+    QCOMPARE(window.type(u"Media Play"_s).bytes, "80 02 01"_ba);
 }
 
 void tst_Playback::volume_data()
