@@ -87,6 +87,7 @@ private slots:
     void includes();
     void permissionsAreUsed();
     void noCircle();
+    void sheetsKnowNothingOfTheProduct();
 
 private:
     /// The part of a file, or of an included header; empty when no row fits.
@@ -225,6 +226,29 @@ void tst_Architecture::noCircle()
     for (const Part &part : std::as_const(left))
         names.append(part.name);
     QCOMPARE(names, QStringList());
+}
+
+/// The linker knows functions only; a header may hold constants.
+void tst_Architecture::sheetsKnowNothingOfTheProduct()
+{
+    static const QRegularExpression library(
+        u"add_library\\(tessaly_test_sheets SHARED([^)]+)\\)"_s);
+    static const QRegularExpression include(u"^#include \"([^\"]+)\""_s,
+                                            QRegularExpression::MultilineOption);
+    const QString build = textOf(sourcePath(u"tests/support/CMakeLists.txt"_s));
+    const QStringList sources = library.match(build).captured(1).simplified().split(u' ');
+    QVERIFY(sources.contains(u"modelsheets.cpp"_s));
+    for (const QString &source : sources) {
+        for (const QString &suffix : {u"cpp"_s, u"h"_s}) {
+            const QString file = source.section(u'.', 0, 0) + u'.' + suffix;
+            const QString text = textOf(sourcePath("tests/support/"_L1 + file));
+            for (const QRegularExpressionMatch &match : include.globalMatch(text)) {
+                const QString header = match.captured(1);
+                QVERIFY2(sources.contains(QFileInfo(header).baseName() + ".cpp"_L1),
+                         qPrintable(file + " includes "_L1 + header));
+            }
+        }
+    }
 }
 
 TESSALY_TEST(tst_Architecture)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sender/commandlist.h"
-#include "tests/support/modelofname.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
 
@@ -91,7 +91,7 @@ private slots:
 
     void commands()
     {
-        QCOMPARE(commandsText(modelOfName(u"Ampra One"_s)),
+        QCOMPARE(commandsText(builtModel(u"Ampra One"_s)),
                  u"Ampra One: serial, 4800, 9600, 19200 baud, player ID 0 to 127\n"
                  "    \"Volume 1\" NUMBER (0 to 56)\n"
                  "    request Information\n"
@@ -104,13 +104,13 @@ private slots:
 
     void commandsWithOtherValues()
     {
-        const QString sonet = commandsText(modelOfName(u"Sonet A (Serial)"_s));
+        const QString sonet = commandsText(builtModel(u"Sonet A (Serial)"_s));
         QVERIFY(sonet.contains(
             u"\n    source \"SPOT folder (Random + Reset)\" NUMBER (1 to 999) OPTION (1 to 255)\n"_s));
-        const QString video = commandsText(modelOfName(u"Vistar Show - SV500 (TCP/IP)"_s));
+        const QString video = commandsText(builtModel(u"Vistar Show - SV500 (TCP/IP)"_s));
         QVERIFY(video.contains(u"\n    subtitles LANGUAGE\n    subtitles NUMBER (0 to 127)\n"_s));
         QVERIFY(video.contains(u"\n    Folder NUMBER (0 to 999)\n"_s));
-        QVERIFY(commandsText(modelOfName(u"Lumo Bridge"_s))
+        QVERIFY(commandsText(builtModel(u"Lumo Bridge"_s))
                     .contains(u"\n    Relay CONTACT... (1 to 8)\n"_s));
     }
 
@@ -138,7 +138,7 @@ private slots:
     void commandsAsJson()
     {
         QFETCH(const ModelSheet, sheet);
-        const QString text = commandsJson(modelOfName(sheet.name));
+        const QString text = commandsJson(builtModel(sheet.name));
         const QJsonObject model = QJsonDocument::fromJson(text.toUtf8()).object();
         QCOMPARE(model.value(u"name"_s).toString(), sheet.name);
         QStringList commands;
@@ -155,7 +155,7 @@ private slots:
 
     void commandFieldsAsJson()
     {
-        const QString text = commandsJson(modelOfName(u"Vistar Home - HV4xx (Serial)"_s));
+        const QString text = commandsJson(builtModel(u"Vistar Home - HV4xx (Serial)"_s));
         const QJsonObject video = QJsonDocument::fromJson(text.toUtf8()).object();
         QCOMPARE(commandOf(video, u"Next File"_s, u""_s),
                  "{'label':'Next File','list':'','values':[],'words':'''Next File'''}"_ba);

@@ -4,7 +4,7 @@
 #include "sender/commandwords.h"
 
 #include "tests/sender/sheetwords.h"
-#include "tests/support/modelofname.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
 
@@ -55,7 +55,7 @@ void tst_CommandWords::framesOfTheModel()
 {
     QFETCH(const ModelSheet, sheet);
 
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
     const QDateTime now(QDate(2026, 3, 7), QTime(14, 5, 9), QTimeZone::utc());
     for (const SheetFrame &frame : framesOf(sheet)) {
         const WordsMeaning meaning = readCommandWords(device, wordsFor(frame));
@@ -135,7 +135,7 @@ void tst_CommandWords::frames()
     QFETCH(const QString, model);
     QFETCH(const QString, words);
 
-    const DeviceModel device = modelOfName(model);
+    const DeviceModel device = builtModel(model);
     const WordsMeaning meaning = readCommandWords(device, wordsOf(words));
     QCOMPARE(meaning.error, QString());
     QVERIFY(meaning.command);
@@ -161,7 +161,7 @@ void tst_CommandWords::clock()
 {
     QFETCH(const QString, words);
 
-    const DeviceModel device = modelOfName(video);
+    const DeviceModel device = builtModel(video);
     const WordsMeaning meaning = readCommandWords(device, {words});
     QVERIFY(meaning.command);
     const QDateTime now(QDate(2026, 3, 7), QTime(14, 5, 9), QTimeZone::utc());
@@ -244,7 +244,7 @@ void tst_CommandWords::errors()
     QFETCH(const QString, model);
     QFETCH(const QString, words);
 
-    const WordsMeaning meaning = readCommandWords(modelOfName(model), wordsOf(words));
+    const WordsMeaning meaning = readCommandWords(builtModel(model), wordsOf(words));
     QTEST(meaning.error, "error");
     QVERIFY(!meaning.command);
 }
@@ -254,7 +254,7 @@ void tst_CommandWords::ownWordsAreRead()
 {
     QFETCH(const ModelSheet, sheet);
 
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
     QVERIFY(!device.commands.isEmpty());
     for (const CommandEntry &entry : device.commands) {
         QStringList words = QProcess::splitCommand(commandWords(entry));

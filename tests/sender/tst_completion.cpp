@@ -22,7 +22,7 @@ QString outputOf(const QString &command, const QStringList &arguments)
     QProcess process;
     process.start(command, arguments);
     if (!process.waitForFinished() || process.exitCode() != 0)
-        qWarning().noquote() << command << "failed:" << process.readAllStandardError();
+        return u"%1 failed: %2"_s.arg(command, QString::fromUtf8(process.readAllStandardError()));
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 

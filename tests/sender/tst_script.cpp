@@ -3,7 +3,7 @@
 
 #include "sender/script.h"
 
-#include "tests/support/modelofname.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/testregistry.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +12,7 @@ namespace {
 
 DeviceModel video()
 {
-    return modelOfName(u"Vistar Show - SV500 (Serial)"_s);
+    return builtModel(u"Vistar Show - SV500 (Serial)"_s);
 }
 
 QStringList textsOf(const QList<Step> &steps)

@@ -6,7 +6,7 @@
 #include "protocol/chosencommand.h"
 #include "simulator/framecursor.h"
 #include "simulator/framedecoder.h"
-#include "tests/support/modelofname.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
 #include "ui/subtitlecodes.h"
@@ -543,7 +543,7 @@ void tst_FrameDecoder::numberTexts()
 void tst_FrameDecoder::sentIsUnderstood()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel model = modelOfName(sheet.name);
+    const DeviceModel model = builtModel(sheet.name);
     QCOMPARE(model.commands.size(), sheet.commands.size());
     for (const CommandEntry &entry : model.commands) {
         const QList<SentFrame> frames = framesOf(model, entry);
@@ -655,7 +655,7 @@ void tst_FrameDecoder::pieces()
     QFETCH(QString, fed);
     QFETCH(QString, flushed);
 
-    FrameDecoder decoder(modelOfName(model));
+    FrameDecoder decoder(builtModel(model));
     QCOMPARE(outline(decoder.feed(input)), fed);
     QCOMPARE(decoder.hasBegunFrame(), !flushed.isEmpty());
     QCOMPARE(outline(decoder.flush()), flushed);
@@ -665,7 +665,7 @@ void tst_FrameDecoder::pieces()
 void tst_FrameDecoder::splitAtEveryByte()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
 
     for (const CommandEntry &entry : device.commands) {
         const QByteArray sent = framesOf(device, entry).constLast().bytes;
@@ -694,7 +694,7 @@ void tst_FrameDecoder::splitAtEveryByte()
 void tst_FrameDecoder::streamOfFrames()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
     constexpr quint32 seed = 20260307;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
@@ -722,7 +722,7 @@ void tst_FrameDecoder::streamOfFrames()
 void tst_FrameDecoder::junkAroundFrames()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
     constexpr quint32 seed = 14111967;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
@@ -752,7 +752,7 @@ void tst_FrameDecoder::junkAroundFrames()
 
 void tst_FrameDecoder::longestStrayPieceIs64()
 {
-    FrameDecoder decoder(modelOfName(u"Tempo Deck"_s));
+    FrameDecoder decoder(builtModel(u"Tempo Deck"_s));
     const auto sizes = [&decoder](qsizetype size) {
         QList<qsizetype> result;
         for (const DecodedFrame &frame : decoder.feed(QByteArray(size, '\x05')))
@@ -768,7 +768,7 @@ void tst_FrameDecoder::longestStrayPieceIs64()
 
 void tst_FrameDecoder::keepsNoMoreThanABeginning()
 {
-    FrameDecoder decoder(modelOfName(u"Tempo Deck"_s));
+    FrameDecoder decoder(builtModel(u"Tempo Deck"_s));
     decoder.feed("\x85\x02\x01"_ba);
     const qsizetype before = allocatedBytes();
 
@@ -808,7 +808,7 @@ void tst_FrameDecoder::neverEndingFrames()
     QFETCH(QString, model);
     QFETCH(QByteArray, start);
     QFETCH(QByteArray, unit);
-    const DeviceModel device = modelOfName(model);
+    const DeviceModel device = builtModel(model);
     QRandomGenerator random(4);
 
     const QByteArray stream = start + unit.repeated(2000);
@@ -823,7 +823,7 @@ void tst_FrameDecoder::neverEndingFrames()
 void tst_FrameDecoder::noise()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel device = modelOfName(sheet.name);
+    const DeviceModel device = builtModel(sheet.name);
     constexpr quint32 seed = 19700101;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);

@@ -3,8 +3,8 @@
 
 #include "simulator/framedecoder.h"
 #include "simulator/framemeaning.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/folders.h"
-#include "tests/support/modelofname.h"
 #include "tests/support/sheetframes.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
@@ -58,7 +58,7 @@ private slots:
 void tst_FrameMeaning::framesOfTheModel()
 {
     QFETCH(const ModelSheet, sheet);
-    const DeviceModel model = modelOfName(sheet.name);
+    const DeviceModel model = builtModel(sheet.name);
     for (const int own : sheet.playerIdSamples()) {
         for (const int addressed : sheet.playerIdSamples()) {
             for (const SheetFrame &frame : framesOf(sheet)) {
@@ -88,7 +88,7 @@ void tst_FrameMeaning::framesOfTheFamily_data()
 void tst_FrameMeaning::framesOfTheFamily()
 {
     QFETCH(const QString, line);
-    const DeviceModel model = modelOfName(line.section(u" | "_s, 0, 0));
+    const DeviceModel model = builtModel(line.section(u" | "_s, 0, 0));
     const int playerId = model.maxPlayerId == 0 ? 0 : 5;
     const QByteArray bytes = QByteArray::fromHex(line.section(u" | "_s, 2, 2).toLatin1());
     QCOMPARE(logLines(model, playerId, bytes), timeColumn + line);
@@ -96,7 +96,7 @@ void tst_FrameMeaning::framesOfTheFamily()
 
 void tst_FrameMeaning::timeComesFirst()
 {
-    const DeviceModel model = modelOfName(u"Tempo Deck"_s);
+    const DeviceModel model = builtModel(u"Tempo Deck"_s);
     const DecodedFrame frame = decoded(model, "\x85\x02\x01"_ba).constFirst();
     const QString rest = u" | Tempo Deck | ID 5 | 85 02 01 | Play"_s;
 

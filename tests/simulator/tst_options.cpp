@@ -5,8 +5,8 @@
 #include "simulator/modellist.h"
 #include "simulator/options.h"
 #include "simulator/portlink.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/filecontent.h"
-#include "tests/support/modelofname.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
 
@@ -445,7 +445,7 @@ private slots:
         QList<DeviceModel> models;
         for (const QString &name : {tempoDeck, u"Vistar Show - SV500 (TCP/IP)"_s, lite,
                                     u"Vistar Home - HV4xx (TCP/IP)"_s})
-            models.append(modelOfName(name));
+            models.append(builtModel(name));
         const std::optional<quint16> given
             = port < 0 ? std::nullopt : std::optional(static_cast<quint16>(port));
         QCOMPARE(places(assignEndpoints(models, QHostAddress(address), given)), expected);

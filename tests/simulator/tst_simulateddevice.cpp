@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "simulator/simulateddevice.h"
-#include "tests/support/modelofname.h"
+#include "tests/support/builtmodels.h"
 #include "tests/support/sheetrows.h"
 #include "tests/support/testregistry.h"
 
@@ -35,7 +35,7 @@ class Bench
 {
 public:
     explicit Bench(const QString &modelName = vistarShow, int playerId = 0)
-        : m_model(modelOfName(modelName))
+        : m_model(builtModel(modelName))
         , m_device(m_model, playerId, start())
     {
     }
@@ -316,7 +316,7 @@ private slots:
     // The models with one bank have no folder steps of their own; their range still counts.
     void singleBankWraps()
     {
-        DeviceModel model = modelOfName(u"HV1xx (Serial) (legacy)"_s);
+        DeviceModel model = builtModel(u"HV1xx (Serial) (legacy)"_s);
         model.folderBankCount = 1;
         SimulatedDevice device(model, 0, start());
         const auto run = [&](const QString &label) {
@@ -728,7 +728,7 @@ private slots:
         };
         for (int radio = 1; radio <= 10; ++radio)
             known.insert(u"Webradio %1 name"_s.arg(radio), u"Radio %1"_s.arg(radio));
-        const DeviceModel model = modelOfName(sheet.name);
+        const DeviceModel model = builtModel(sheet.name);
         SimulatedDevice device(model, 0, start());
         for (const CommandEntry &entry : model.commands) {
             if (entry.commandId != CommandId::Request)
@@ -751,7 +751,7 @@ private slots:
     void answersAreLines()
     {
         QFETCH(const ModelSheet, sheet);
-        const DeviceModel player = modelOfName(sheet.name);
+        const DeviceModel player = builtModel(sheet.name);
 
         for (const bool standby : {false, true}) {
             for (const bool inRange : {true, false}) {

@@ -6,6 +6,7 @@
 #include "tests/support/folders.h"
 #include "tests/support/languagefiles.h"
 #include "tests/support/testmain.h"
+#include "tests/support/translatedwindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -27,11 +28,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString programFolder()
-{
-    return programPath(u"."_s);
-}
-
 /// The built file of a language.
 QString qmPath(const QString &code)
 {
@@ -42,32 +38,6 @@ QString match(const QString &pattern, const QString &text)
 {
     return QRegularExpression(pattern).match(text).captured();
 }
-
-/// The real window in any language: the menu names French alone, so the language's file takes the
-/// place of the French one for as long as this lives. Empty: the built-in texts.
-class TranslatedWindow
-{
-public:
-    explicit TranslatedWindow(const QString &code)
-    {
-        if (!code.isEmpty()
-            && !QFile::copy(qmPath(code), m_folder.filePath(u"LanguageData_fr.qm"_s)))
-            qFatal("cannot copy %s", qPrintable(qmPath(code)));
-        QDir::setCurrent(m_folder.path());
-        console.find<QAction>("action_French")->trigger();
-    }
-    ~TranslatedWindow()
-    {
-        console.find<QAction>("action_English")->trigger();
-        QDir::setCurrent(programFolder());
-    }
-    Q_DISABLE_COPY_MOVE(TranslatedWindow)
-
-    ConsoleWindow console;
-
-private:
-    QTemporaryDir m_folder;
-};
 
 /// Every text of the window by the name of its object and its kind: "label_Port text". Menus and
 /// actions have none of the other kinds; what they show as a tip is their text.
@@ -103,7 +73,7 @@ QMap<QString, QString> textsOf(const ConsoleWindow &console)
 /// translated one by one.
 QString translated(QString text, const LanguageFile &file)
 {
-    const QString whole = file.translated(u"MainWindow"_s, text);
+    QString whole = file.translated(u"MainWindow"_s, text);
     if (!whole.isEmpty())
         return whole;
     for (const QString &piece :

@@ -5,9 +5,11 @@
 #include "modelpanel.h"
 #include "tests/support/commandcontrols.h"
 #include "tests/support/consolewindow.h"
+#include "tests/support/languagefiles.h"
 #include "tests/support/modelsheets.h"
 #include "tests/support/ptypeer.h"
 #include "tests/support/testmain.h"
+#include "tests/support/translatedwindow.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -67,14 +69,10 @@ QPalette palette(bool isDark)
     return dark;
 }
 
-/// Those that are beside the program; empty for the built-in texts.
+/// Empty for the built-in texts.
 QStringList languages()
 {
-    QStringList codes{QString()};
-    const QDir programs(QCoreApplication::applicationDirPath());
-    for (const QString &file : programs.entryList({u"LanguageData_*.qm"_s}))
-        codes.append(file.section(u'_', 1).section(u'.', 0, 0));
-    return codes;
+    return QStringList{QString()} + languageCodes();
 }
 
 QByteArray nameOf(const QString &code)
@@ -89,41 +87,31 @@ void settle()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
-/// The real window in any language: the menu names French alone, so the language's file takes the
-/// place of the French one.
-class TranslatedWindow
+/// A translated window in light or dark colours.
+class ColouredWindow
 {
 public:
-    TranslatedWindow(const QString &code, bool isDark)
+    ColouredWindow(const QString &code, bool isDark)
     {
         QApplication::setPalette(palette(isDark));
-        console = std::make_unique<ConsoleWindow>();
+        m_translated = std::make_unique<TranslatedWindow>(code);
+        console = &m_translated->console;
         // A name longer than its list, as stable names of ports are.
         auto *ports = console->find<QComboBox>("comboBox_Port");
         ports->clear();
         ports->addItem(u"/dev/serial/by-id/usb-FTDI_FT232R_USB_UART_A9087-if00"_s);
-        if (!code.isEmpty()) {
-            const QString file = u"/LanguageData_%1.qm"_s;
-            if (!QFile::copy(QCoreApplication::applicationDirPath() + file.arg(code),
-                             m_folder.path() + file.arg(u"fr"_s)))
-                qFatal("cannot copy the texts of %s", qPrintable(code));
-            QDir::setCurrent(m_folder.path());
-            console->find<QAction>("action_French")->trigger();
-        }
     }
-    ~TranslatedWindow()
+    ~ColouredWindow()
     {
-        console->find<QAction>("action_English")->trigger();
-        console.reset();
-        QDir::setCurrent(QCoreApplication::applicationDirPath());
+        m_translated.reset();
         QApplication::setPalette(palette(false));
     }
-    Q_DISABLE_COPY_MOVE(TranslatedWindow)
+    Q_DISABLE_COPY_MOVE(ColouredWindow)
 
-    std::unique_ptr<ConsoleWindow> console;
+    ConsoleWindow *console = nullptr;
 
 private:
-    QTemporaryDir m_folder;
+    std::unique_ptr<TranslatedWindow> m_translated;
 };
 
 /// A text on the screen, and the room that it has.
@@ -525,7 +513,7 @@ private:
     void enter(const QString &language, bool isDark = false);
     void setLink(Link link);
 
-    std::unique_ptr<TranslatedWindow> m_translated; ///< kept while the rows want the same
+    std::unique_ptr<ColouredWindow> m_window; ///< kept while the rows want the same
     QString m_language;
     bool m_isDark = false;
     PtyPeer m_device;
@@ -540,7 +528,7 @@ void tst_Walk::initTestCase()
 
 void tst_Walk::cleanupTestCase()
 {
-    m_translated.reset();
+    m_window.reset();
 }
 
 void tst_Walk::addLanguageAndModelRows()
@@ -558,10 +546,10 @@ void tst_Walk::addLanguageAndModelRows()
 /// Makes the window of that look, unless it is the one at hand.
 void tst_Walk::enter(const QString &language, bool isDark)
 {
-    if (m_translated && m_language == language && m_isDark == isDark)
+    if (m_window && m_language == language && m_isDark == isDark)
         return;
-    m_translated.reset();
-    m_translated = std::make_unique<TranslatedWindow>(language, isDark);
+    m_window.reset();
+    m_window = std::make_unique<ColouredWindow>(language, isDark);
     m_language = language;
     m_isDark = isDark;
 }
@@ -569,7 +557,7 @@ void tst_Walk::enter(const QString &language, bool isDark)
 /// An open link stays open while the model changes; a connection in progress is shown only.
 void tst_Walk::setLink(Link link)
 {
-    ConsoleWindow &console = *m_translated->console;
+    ConsoleWindow &console = *m_window->console;
     const auto *disconnect = console.find<QPushButton>("pushButton_Disconnect");
     if (link == Link::Open && !disconnect->isEnabled()) {
         console.selectModel(console.rowOfModel(u"Vistar Show - SV500 (Serial)"_s));
@@ -586,7 +574,7 @@ void tst_Walk::everythingHasRoom()
     QFETCH(const ModelSheet, sheet);
 
     enter(language);
-    ConsoleWindow &console = *m_translated->console;
+    ConsoleWindow &console = *m_window->console;
     const auto look = [](Sight &sight) {
         sight.lookAtTexts();
         sight.lookAtPlaces();
@@ -604,7 +592,7 @@ void tst_Walk::longListTextsAreShown()
     QFETCH(const ModelSheet, sheet);
 
     enter(language);
-    ConsoleWindow &console = *m_translated->console;
+    ConsoleWindow &console = *m_window->console;
     console.selectModel(console.rowOfModel(sheet.name));
     const QStringList findings
         = findingsOf(console, sheet, [](Sight &sight) { sight.lookAtLists(); });
@@ -637,7 +625,7 @@ void tst_Walk::coloursAreClear()
     QFETCH(const ModelSheet, sheet);
 
     enter(QString(), isDark);
-    ConsoleWindow &console = *m_translated->console;
+    ConsoleWindow &console = *m_window->console;
     setLink(link);
     console.selectModel(console.rowOfModel(sheet.name));
     if (link == Link::Connecting)
@@ -659,8 +647,8 @@ void tst_Walk::coloursFollowThePalette()
 {
     QFETCH(const QString, model);
 
-    m_translated.reset();
-    const TranslatedWindow translated(QString(), false);
+    m_window.reset();
+    const ColouredWindow translated(QString(), false);
     ConsoleWindow &console = *translated.console;
     console.selectModel(console.rowOfModel(model));
     QStringList findings;
@@ -690,8 +678,8 @@ void tst_Walk::leftColumnStays()
     QFETCH(const QString, language);
     QFETCH(const QSize, size);
 
-    m_translated.reset();
-    TranslatedWindow translated(language, false);
+    m_window.reset();
+    ColouredWindow translated(language, false);
     ConsoleWindow &console = *translated.console;
     console.window.resize(size);
     const auto places = [&console] {
@@ -751,8 +739,8 @@ void tst_Walk::focusIsSeen()
     QFETCH(const QString, model);
     QFETCH(const bool, isDark);
 
-    m_translated.reset();
-    TranslatedWindow translated(QString(), isDark);
+    m_window.reset();
+    ColouredWindow translated(QString(), isDark);
     ConsoleWindow &console = *translated.console;
     QVERIFY(QTest::qWaitForWindowActive(&console.window));
     console.selectModel(console.rowOfModel(model));
