@@ -534,7 +534,7 @@ void tst_configlines::cutShort_data()
         return settings;
     };
     for (int count = 1; count < 24; ++count) {
-        const QByteArray bytes = fullFile.lines().first(count).join('\n');
+        const QByteArray bytes = fullFile.lines().sliced(0, count).join('\n');
         QTest::addRow("after line %d", count) << bytes << settingsUpTo(count);
         QTest::addRow("after line %d and its end", count) << bytes + '\n' << settingsUpTo(count);
     }
@@ -542,7 +542,7 @@ void tst_configlines::cutShort_data()
     const auto inLine = [&](int number, qsizetype length, qsizetype setting, const QString &rest) {
         QStringList settings = settingsUpTo(number - 1);
         settings[setting] = rest;
-        QByteArrayList lines = fullFile.lines().first(number);
+        QByteArrayList lines = fullFile.lines().sliced(0, number);
         lines.last().truncate(length);
         QTest::addRow("in line %d after \"%s\"", number, lines.constLast().constData())
             << lines.join('\n') << settings;

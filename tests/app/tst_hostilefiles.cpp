@@ -252,7 +252,7 @@ void tst_HostileFiles::settings_data()
         [](const QString &path) { return writeLong(path, "TSY11.00\n", 8 * gibibyte); });
     row("8 GiB of zeros in the line of the model", u"French, "_s + firstModel + u", 0.0.0.0"_s,
         [](const QString &path) {
-            return writeLong(path, chosen.lines().first(6).join('\n') + '\n', 8 * gibibyte);
+            return writeLong(path, chosen.lines().sliced(0, 6).join('\n') + '\n', 8 * gibibyte);
         });
     row("8 GiB of zeros after all lines", u"French, Ampra One, 1.2.3.4"_s,
         [](const QString &path) { return writeLong(path, chosen.bytes(), 8 * gibibyte); });
